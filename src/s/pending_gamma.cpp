@@ -5,26 +5,6 @@
 
 extern "C" {
 
-KIV_API double s15abc(double x) {
-    (void)x;
-    return 0;
-}
-
-KIV_API double s15acc(double x) {
-    (void)x;
-    return 0;
-}
-
-KIV_API double s15adc(double x) {
-    (void)x;
-    return 0;
-}
-
-KIV_API double s15aec(double x) {
-    (void)x;
-    return 0;
-}
-
 KIV_API void s14bac(double a, double x, double tol, double *p, double *q, KivError *fail) {
     (void)a;
     (void)x;
@@ -47,12 +27,6 @@ KIV_API double s14abc(double x, KivError *fail) {
     (void)fail;
     kiv::rt::report_text(fail, "s14abc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "s14abc");
     return 0;
-}
-
-KIV_API void s15adc_v(int n, const double x[], double out[]) {
-    (void)n;
-    (void)x;
-    (void)out;
 }
 
 }  // extern "C"
