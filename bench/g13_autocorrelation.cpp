@@ -109,7 +109,11 @@ void BM_g13aac(benchmark::State &state) {
 
 }  // namespace
 
-BENCHMARK(BM_g13abc)->Args({1000000, 100})->Args({1000000, 1})->Args({10000, 20})->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_g13abc)
+    ->Args({1000000, 100})
+    ->Args({1000000, 1})
+    ->Args({10000, 20})
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_plain_loop)->Args({1000000, 100})->Args({10000, 20})->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_g13acc)->Arg(100)->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_g13aac)->Arg(1000000)->Unit(benchmark::kMillisecond);
