@@ -17,7 +17,9 @@ thread_local int thread_starts = 0;
 constexpr std::size_t kSpare = 64;  // past-the-end slots: over-reads stay harmless
 unsigned char spare_value[16] = {};
 
-ArgList &list_of(ChInterp_t interp) { return *static_cast<ArgList *>(interp); }
+ArgList &list_of(ChInterp_t interp) {
+    return *static_cast<ArgList *>(interp);
+}
 
 // Whether a cursor position lies on the list's slots.
 bool on_list(ArgList &list, void *position) {
@@ -46,7 +48,9 @@ void *ArgList::varg() {
     return this;
 }
 
-int starts_on_this_thread() { return thread_starts; }
+int starts_on_this_thread() {
+    return thread_starts;
+}
 
 void *module() {
     static void *handle = [] {
@@ -57,7 +61,9 @@ void *module() {
     return handle;
 }
 
-void *export_address(const std::string &name) { return dlsym(module(), name.c_str()); }
+void *export_address(const std::string &name) {
+    return dlsym(module(), name.c_str());
+}
 
 double call_export(const std::string &name, const std::string &result, ArgList &list,
                    void **pointer) {
@@ -87,8 +93,8 @@ const std::vector<Entry> &catalogue() {
             std::stringstream fields(line);
             for (std::string field; std::getline(fields, field, '\t');) f.push_back(field);
             f.resize(9);
-            Entry e{f[0], f[1], std::stoi(f[2]), f[3], f[4], f[5] == "1", f[6] == "1",
-                    f[7] == "1", {}};
+            Entry e{f[0],        f[1],        std::stoi(f[2]), f[3], f[4],
+                    f[5] == "1", f[6] == "1", f[7] == "1",     {}};
             std::stringstream params(f[8]);
             for (std::string p; std::getline(params, p, ';');) {
                 const auto first = p.find_first_not_of(' ');
@@ -152,8 +158,7 @@ int Ch_CallFuncByAddr(ChInterp_t interp, void *func, void *result, ...) {
     const int code = va_arg(args, int);
     const char *routine = va_arg(args, const char *);
     va_end(args);
-    list_of(interp).script_calls.push_back(
-        {func, result == nullptr, message, code, routine});
+    list_of(interp).script_calls.push_back({func, result == nullptr, message, code, routine});
     auto *function = static_cast<kiv_test::ScriptFunction *>(func);
     if (function->action) function->action();
     return 0;

@@ -45,10 +45,10 @@ public:
     // What the export receives; closes the list for further additions.
     void *varg();
 
-    int starts = 0;        // __builtin_Ch_VaStart calls
-    int ends = 0;          // Ch_VaEnd calls
-    long fetched = -1;     // arguments taken off the list when it was closed
-    bool foreign = false;  // a fetch or close came with another list's handle
+    int starts = 0;                        // __builtin_Ch_VaStart calls
+    int ends = 0;                          // Ch_VaEnd calls
+    long fetched = -1;                     // arguments taken off the list when it was closed
+    bool foreign = false;                  // a fetch or close came with another list's handle
     std::vector<ScriptCall> script_calls;  // Ch_CallFuncByAddr under this handle
 
     std::vector<void *> addresses;  // padded with spare slots past the end
