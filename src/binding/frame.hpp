@@ -18,6 +18,7 @@
 #pragma once
 
 #include <cstring>
+#include <type_traits>
 
 #include "binding/ch_host.h"
 #include "kiv.h"
@@ -59,12 +60,20 @@ public:
 
     // The next argument, read at the address that the interpreter gives
     // with the parameter's own C type (4 or 8 bytes).
+    // An enumeration is read as its integer and passed on unchanged, also
+    // when the script's value names no member (the routine reports it).
     template <class T>
     T arg() {
         const void *address = __builtin_Ch_VaArg(slots_.handle, &cursor_);
-        T value;
-        std::memcpy(&value, address, sizeof value);
-        return value;
+        if constexpr (std::is_enum_v<T>) {
+            std::underlying_type_t<T> value;
+            std::memcpy(&value, address, sizeof value);
+            return static_cast<T>(value);
+        } else {
+            T value;
+            std::memcpy(&value, address, sizeof value);
+            return value;
+        }
     }
 
     // Takes `count` arguments off the list without reading them.
