@@ -21,7 +21,7 @@ std::string not_available_text(const std::string &routine) {
     return "NE_NOT_AVAILABLE:\n  Routine " + routine + " is not available in this library.";
 }
 
-TEST(Catalogue, ListsEveryExportOnceWithTheChapterCounts) {
+TEST(BindingCatalogue, ListsEveryExportOnceWithTheChapterCounts) {
     std::map<std::string, int> per_chapter;
     std::set<std::string> names;
     for (const Entry &e : catalogue()) {
@@ -35,7 +35,7 @@ TEST(Catalogue, ListsEveryExportOnceWithTheChapterCounts) {
     EXPECT_EQ(per_chapter, expected);
 }
 
-TEST(Catalogue, EveryNameIsADefinedSymbolOfTheModule) {
+TEST(BindingCatalogue, EveryNameIsADefinedSymbolOfTheModule) {
     Dl_info info{};
     for (const Entry &e : catalogue()) {
         void *address = kiv_test::export_address(e.export_name);
@@ -48,7 +48,7 @@ TEST(Catalogue, EveryNameIsADefinedSymbolOfTheModule) {
 
 // The twenty-five exports that have no routine in any build of this
 // library, and the routines present today.
-TEST(Catalogue, MarksTheExportsWithoutARoutine) {
+TEST(BindingCatalogue, MarksTheExportsWithoutARoutine) {
     const std::set<std::string> never = {
         "g01bcc_chdl", "g01dac_0_chdl", "g01ebf_f_chdl", "g03zaf_f_chdl", "g05cxc_chdl",
         "g05dfc_chdl", "g05dgc_chdl",   "g05drc_chdl",   "g05fdc_chdl",   "g12aaf_f_chdl",
@@ -100,7 +100,7 @@ private:
 // free); the frame tests call them with such.
 const std::set<std::string> kCalledElsewhere = {"x04bay_chdl", "x04bbc_chdl", "x04bcc_chdl"};
 
-TEST(Catalogue, EveryExportTakesExactlyItsArgumentsOffTheList) {
+TEST(BindingCatalogue, EveryExportTakesExactlyItsArgumentsOffTheList) {
     for (const Entry &e : catalogue()) {
         if (kCalledElsewhere.count(e.export_name)) continue;
         SCOPED_TRACE(e.export_name);
@@ -133,7 +133,7 @@ TEST(Catalogue, EveryExportTakesExactlyItsArgumentsOffTheList) {
     }
 }
 
-TEST(CatalogueDeathTest, NotAvailableWithANullRecordPrintsAndAborts) {
+TEST(BindingCatalogueDeathTest, NotAvailableWithANullRecordPrintsAndAborts) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(
         {

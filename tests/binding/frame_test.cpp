@@ -32,7 +32,7 @@ using kiv_test::ScriptFunction;
 
 // ---- unpacking ---------------------------------------------------------
 
-TEST(Unpacking, ConstantsTouchNeitherHandleNorList) {
+TEST(BindingUnpacking, ConstantsTouchNeitherHandleNorList) {
     const struct {
         const char *name;
         std::uint64_t bits;
@@ -47,7 +47,7 @@ TEST(Unpacking, ConstantsTouchNeitherHandleNorList) {
     }
 }
 
-TEST(Unpacking, IntegerAndPointerWithoutResult) {
+TEST(BindingUnpacking, IntegerAndPointerWithoutResult) {
     int unit = -7;
     ArgList query;
     query.value(0).value(&unit);
@@ -60,7 +60,7 @@ TEST(Unpacking, IntegerAndPointerWithoutResult) {
     EXPECT_EQ(unit, -7);
 }
 
-TEST(Unpacking, SizesAndPointersWithPointerResult) {
+TEST(BindingUnpacking, SizesAndPointersWithPointerResult) {
     void *block = nullptr;
     ArgList allocate;
     allocate.value(std::size_t{24});
@@ -81,7 +81,7 @@ TEST(Unpacking, SizesAndPointersWithPointerResult) {
     EXPECT_EQ(grown, nullptr);
 }
 
-TEST(Unpacking, StringsReachTheRoutineAsGiven) {
+TEST(BindingUnpacking, StringsReachTheRoutineAsGiven) {
     char name[] = "/tmp/kiv_binding_XXXXXX";
     const int fd = mkstemp(name);
     ASSERT_GE(fd, 0);
@@ -99,7 +99,7 @@ TEST(Unpacking, StringsReachTheRoutineAsGiven) {
 
 // Enum, double and record arguments with a double result, against the
 // direct call of the same routine.
-TEST(Unpacking, EnumDoubleAndRecordWithDoubleResult) {
+TEST(BindingUnpacking, EnumDoubleAndRecordWithDoubleResult) {
     auto direct = module_function<double (*)(Kiv_Tail, double, KivError *)>("g01eac");
     const struct {
         int tail;
@@ -121,7 +121,7 @@ TEST(Unpacking, EnumDoubleAndRecordWithDoubleResult) {
     }
 }
 
-TEST(Unpacking, DoubleArgumentWithDoubleResult) {
+TEST(BindingUnpacking, DoubleArgumentWithDoubleResult) {
     auto direct = module_function<double (*)(double)>("s15adc");
     for (const double x : {-2.5, 0.0, 0.75, 27.0}) {
         ArgList list;
@@ -134,7 +134,7 @@ TEST(Unpacking, DoubleArgumentWithDoubleResult) {
 // Integer arguments with an integer result, and pointers to arrays that
 // the routine fills: the same seed gives the same draws and the same saved
 // state through the exports as through direct calls.
-TEST(Unpacking, IntegersWithIntegerResultAndArraysFilled) {
+TEST(BindingUnpacking, IntegersWithIntegerResultAndArraysFilled) {
     auto seed = module_function<void (*)(int)>("g05cbc");
     auto draw = module_function<int (*)(int, int)>("g05dyc");
     auto save = module_function<void (*)(int *, double *)>("g05cfc");
@@ -181,7 +181,7 @@ void call_g01bcc(ArgList &list, KivError *record) {
     call_export("g01bcc_chdl", "double", list);
 }
 
-TEST(HandlerSubstitution, ScriptHandlerIsReachedThroughTheInterpreterOnError) {
+TEST(BindingHandler, ScriptHandlerIsReachedThroughTheInterpreterOnError) {
     ScriptFunction script;
     KivError record = quiet_record(as_handler(script));
     ArgList list;
@@ -200,7 +200,7 @@ TEST(HandlerSubstitution, ScriptHandlerIsReachedThroughTheInterpreterOnError) {
 
 // A routine's report, success included, reaches the script handler with
 // the record's own outcome.
-TEST(HandlerSubstitution, ScriptHandlerSeesTheRoutinesOwnReport) {
+TEST(BindingHandler, ScriptHandlerSeesTheRoutinesOwnReport) {
     ScriptFunction script;
     KivError record = quiet_record(as_handler(script));
     ArgList list;
@@ -216,7 +216,7 @@ TEST(HandlerSubstitution, ScriptHandlerSeesTheRoutinesOwnReport) {
     EXPECT_EQ(record.handler, as_handler(script));
 }
 
-TEST(HandlerSubstitution, RecordWithoutHandlerMakesNoScriptCall) {
+TEST(BindingHandler, RecordWithoutHandlerMakesNoScriptCall) {
     KivError record = quiet_record();
     ArgList list;
     call_g01bcc(list, &record);
@@ -227,7 +227,7 @@ TEST(HandlerSubstitution, RecordWithoutHandlerMakesNoScriptCall) {
 
 // S routines and the classic generators get the record as the script gave
 // it: a handler there is called as it stands, never through the host.
-TEST(HandlerSubstitution, NonSubstitutingGroupsPassTheRecordUntouched) {
+TEST(BindingHandler, NonSubstitutingGroupsPassTheRecordUntouched) {
     const struct {
         const char *name;
         int args;
@@ -256,7 +256,7 @@ TEST(HandlerSubstitution, NonSubstitutingGroupsPassTheRecordUntouched) {
 // A script handler that calls into the same group again: the inner call
 // has its own handle and handler, and the outer call still restores its
 // own and closes its own list.
-TEST(Slots, NestedCallFromAHandlerLeavesTheOuterCallIntact) {
+TEST(BindingSlots, NestedCallFromAHandlerLeavesTheOuterCallIntact) {
     ScriptFunction inner_script;
     KivError inner_record = quiet_record(as_handler(inner_script));
     ArgList inner;
@@ -284,7 +284,7 @@ TEST(Slots, NestedCallFromAHandlerLeavesTheOuterCallIntact) {
 
 // The first thread's handler waits inside its call while the second
 // thread makes a whole call into the same group.
-TEST(Slots, TwoThreadsInOneGroupKeepTheirOwnSlots) {
+TEST(BindingSlots, TwoThreadsInOneGroupKeepTheirOwnSlots) {
     std::mutex mutex;
     std::condition_variable changed;
     bool first_inside = false, second_done = false;
