@@ -5,20 +5,8 @@
 
 extern "C" {
 
-KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[], const int sobs[], double corr[], int tdc, KivError *fail) {
-    (void)n;
-    (void)m;
-    (void)x;
-    (void)tdx;
-    (void)svar;
-    (void)sobs;
-    (void)corr;
-    (void)tdc;
-    (void)fail;
-    kiv::rt::report_text(fail, "g02brc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "g02brc");
-}
-
-KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int incx, double *sw, double xbar[], double c[], KivError *fail) {
+KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int incx, double *sw,
+                    double xbar[], double c[], KivError *fail) {
     (void)mean;
     (void)m;
     (void)wt;
@@ -28,10 +16,14 @@ KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int 
     (void)xbar;
     (void)c;
     (void)fail;
-    kiv::rt::report_text(fail, "g02btc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "g02btc");
+    kiv::rt::report_text(fail, "g02btc", NE_NOT_AVAILABLE,
+                         "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.",
+                         "g02btc");
 }
 
-KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const double x[], int pdx, const double wt[], double *sw, double wmean[], double c[], KivError *fail) {
+KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const double x[],
+                    int pdx, const double wt[], double *sw, double wmean[], double c[],
+                    KivError *fail) {
     (void)mean;
     (void)order;
     (void)n;
@@ -43,17 +35,23 @@ KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const
     (void)wmean;
     (void)c;
     (void)fail;
-    kiv::rt::report_text(fail, "g02buc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "g02buc");
+    kiv::rt::report_text(fail, "g02buc", NE_NOT_AVAILABLE,
+                         "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.",
+                         "g02buc");
 }
 
 KIV_API void g02bwc(int m, double r[], KivError *fail) {
     (void)m;
     (void)r;
     (void)fail;
-    kiv::rt::report_text(fail, "g02bwc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "g02bwc");
+    kiv::rt::report_text(fail, "g02bwc", NE_NOT_AVAILABLE,
+                         "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.",
+                         "g02bwc");
 }
 
-KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[], const double wt[], double *sw, double wmean[], double std[], double r[], int tdr, double v[], int tdv, KivError *fail) {
+KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[], const double wt[],
+                    double *sw, double wmean[], double std[], double r[], int tdr, double v[],
+                    int tdv, KivError *fail) {
     (void)n;
     (void)m;
     (void)x;
@@ -68,10 +66,13 @@ KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[], con
     (void)v;
     (void)tdv;
     (void)fail;
-    kiv::rt::report_text(fail, "g02bxc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "g02bxc");
+    kiv::rt::report_text(fail, "g02bxc", NE_NOT_AVAILABLE,
+                         "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.",
+                         "g02bxc");
 }
 
-KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr, double p[], int tdp, KivError *fail) {
+KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr, double p[],
+                    int tdp, KivError *fail) {
     (void)m;
     (void)ny;
     (void)nx;
@@ -81,7 +82,9 @@ KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], in
     (void)p;
     (void)tdp;
     (void)fail;
-    kiv::rt::report_text(fail, "g02byc", NE_NOT_AVAILABLE, "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.", "g02byc");
+    kiv::rt::report_text(fail, "g02byc", NE_NOT_AVAILABLE,
+                         "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.",
+                         "g02byc");
 }
 
 }  // extern "C"
