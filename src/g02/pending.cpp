@@ -49,28 +49,6 @@ KIV_API void g02bwc(int m, double r[], KivError *fail) {
                          "g02bwc");
 }
 
-KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[], const double wt[],
-                    double *sw, double wmean[], double std[], double r[], int tdr, double v[],
-                    int tdv, KivError *fail) {
-    (void)n;
-    (void)m;
-    (void)x;
-    (void)tdx;
-    (void)sx;
-    (void)wt;
-    (void)sw;
-    (void)wmean;
-    (void)std;
-    (void)r;
-    (void)tdr;
-    (void)v;
-    (void)tdv;
-    (void)fail;
-    kiv::rt::report_text(fail, "g02bxc", NE_NOT_AVAILABLE,
-                         "NE_NOT_AVAILABLE:\n  Routine %s is not available in this library.",
-                         "g02bxc");
-}
-
 KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr, double p[],
                     int tdp, KivError *fail) {
     (void)m;
