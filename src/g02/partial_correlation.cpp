@@ -22,7 +22,8 @@
 //
 // Accuracy (measured, tests/g02): against partial correlations from the
 // inverse of the correlation matrix in 50-digit arithmetic, absolute error
-// below 1e-14 for well-conditioned matrices (m = 6, nx = 2, 3).
+// below 1e-14 (the tested bound) for a well-conditioned 6 x 6 matrix with
+// ny = 3, nx = 2, from correlations and from covariances.
 //
 // References: P. Businger and G. H. Golub, Linear least squares solutions
 // by Householder transformations, Numerische Mathematik 7 (1965), 269-276.

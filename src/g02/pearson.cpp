@@ -30,9 +30,11 @@
 // infinite data give NaN in the outputs that involve them, and such a
 // variable does not count as having zero variance.
 //
-// Accuracy (measured, see tests/g02): against correlations of the same
-// data computed in 256-bit arithmetic, relative error below 1e-14 for
-// well-conditioned data, n = 1000.
+// Accuracy (measured, see tests/g02): against a two-pass evaluation in
+// 50-digit arithmetic, n = 1000, one column with mean / sd = 1000: error of
+// r at most 3.1e-14 absolute, of v at most 3.1e-14 relative to
+// sqrt(v(j,j) v(k,k)), of means and standard deviations below that.
+// Time: n = 10^6, m = 10 (row-major), about 52 ms weighted or not.
 //
 // References: D. H. D. West, Updating mean and variance estimates: an
 // improved method, Communications of the ACM 22 (1979), 532-535. T. F.

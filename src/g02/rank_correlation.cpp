@@ -24,8 +24,10 @@
 // numerator 2Q_a + 2Q_b - 3(4D) is exact and rounded once: there is no
 // cancellation even when rho is near 0. Both coefficients are then within
 // about 3 units in the last place of their exact values (measured: at most
-// 2 ulp against an MPFR evaluation of the same integers, 2000 random tied
-// samples, n <= 200).
+// 1 ulp against an all-pairs evaluation of the definitions in 64-bit-
+// mantissa arithmetic, 400 random tied samples, n <= 151). Time: n = 10^6,
+// two variables, about 4 ties per value: 0.23 s; n = 10^4, ten variables
+// (45 pairs): 0.034 s.
 //
 // Non-finite data: the ranking orders -inf < finite < +inf < NaN, with all
 // NaNs tied with each other (and -0 tied with +0), so data with NaNs give
