@@ -44,7 +44,9 @@
 //   (1973) 927-937.
 //   L. Devroye, Non-Uniform Random Variate Generation, Springer, 1986,
 //   Section IV.2.
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "g05/basic_generator.hpp"
@@ -60,13 +62,28 @@ constexpr double no_state = std::numeric_limits<double>::quiet_NaN();
 
 constexpr int normal_intervals = 40;
 
+// The interval index: 1 plus the number of doublings that take the carried
+// uniform c above 1/2, at most 40. For 0 < c <= 1 that number is
+// 1022 - (exponent field of the bits of c less one) (a power of two borrows
+// into the exponent), which saves a loop of unpredictable length; any other
+// carried value takes the loop itself.
+int interval_from(double carry) {
+    if (carry > 0.0 && carry <= 1.0) [[likely]] {
+        const auto exponent = static_cast<int>((std::bit_cast<std::uint64_t>(carry) - 1) >> 52);
+        const int doublings = 1022 - exponent;
+        return 1 + (doublings < normal_intervals - 1 ? doublings : normal_intervals - 1);
+    }
+    int interval = 1;
+    for (double c = carry; c <= 0.5 && interval < normal_intervals; c += c) ++interval;
+    return interval;
+}
+
 // One normal deviate of mean a and standard deviation b.
 double normal_deviate(ThreadRecords &records, double a, double b) {
     double &carry = records.basic.carry_uniform;
     double u = next_uniform(records);
 
-    int interval = 1;
-    for (double c = carry; c <= 0.5 && interval < normal_intervals; c += c) ++interval;
+    const int interval = interval_from(carry);
     const double lo = kiv::g05::normal_table[interval - 1];
     const double width = kiv::g05::normal_table[interval] - lo;
 
@@ -84,12 +101,17 @@ double normal_deviate(ThreadRecords &records, double a, double b) {
         }
         const double fresh = (current - previous) / (1.0 - previous);
         if (accept) {
-            if (fresh <= 0.5) {
-                carry = fresh + fresh;
-                return a + b * (lo + v);
-            }
-            carry = (fresh + fresh) - 1.0;
-            return a - b * (lo + v);
+            // Without branches, the sign being a coin toss: in integer bits,
+            // x - 0 = x and a + (-d) = a - d exactly, so this is the two-way
+            // rule above.
+            const std::uint64_t upper_half =
+                std::bit_cast<std::uint64_t>(fresh) > std::bit_cast<std::uint64_t>(0.5);
+            const std::uint64_t mask = 0 - upper_half;
+            carry =
+                (fresh + fresh) - std::bit_cast<double>(mask & std::bit_cast<std::uint64_t>(1.0));
+            const double deviation = b * (lo + v);
+            return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^
+                                             (upper_half << 63));
         }
         u = fresh;
     }

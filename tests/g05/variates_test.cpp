@@ -8,6 +8,7 @@
 #include <climits>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <vector>
 
 #include "g05/normal_table.hpp"
@@ -98,6 +99,68 @@ TEST(Variates, NormalStreamIsReproducibleAndSharesTheUniformStream) {
     int same = 0;
     for (int k = 0; k < 1000; ++k) same += g05ddc(3.0, -0.5) == first[k];
     EXPECT_LT(same, 10);
+}
+
+// The comparison method written directly from its description, one g05cac
+// call per uniform: g05ddc must give the same bits from any carried value.
+double reference_normal(double a, double b) {
+    int code = 0;
+    int *pieces = nullptr;
+    double *carries = nullptr, *buffer = nullptr, *scale = nullptr;
+    g05caz(&code, &pieces, &carries, &buffer, &scale);
+    double u = g05cac();
+    int i = 1;
+    for (double c = carries[0]; c <= 0.5 && i < 40; c = 2 * c) ++i;
+    const double lo = kiv::g05::normal_table[i - 1], width = kiv::g05::normal_table[i] - lo;
+    for (;;) {
+        const double v = width * u, t = v * (lo + v / 2);
+        double p = t, w = g05cac();
+        int place = 1;
+        for (; p > w; ++place) {
+            p = w;
+            w = g05cac();
+        }
+        const double r = (w - p) / (1 - p);
+        if (place % 2 == 0) {
+            u = r;
+            continue;
+        }
+        carries[0] = r <= 0.5 ? 2 * r : 2 * r - 1;
+        return r <= 0.5 ? a + b * (lo + v) : a - b * (lo + v);
+    }
+}
+
+TEST(Variates, NormalMatchesTheComparisonMethodFromAnyCarry) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double carries[] = {1.0,
+                              0.75,
+                              0.5,
+                              0.5000000000000001,
+                              0.25,
+                              0.3,
+                              0x1p-38,
+                              0x1p-39,
+                              0x1.0000000000001p-39,
+                              0x1p-40,
+                              1e-310,
+                              0.0,
+                              -1.0,
+                              nan,
+                              2.0};
+    for (double carry : carries) {
+        int code = 0;
+        int *pieces = nullptr;
+        double *carry_pair = nullptr, *buffer = nullptr, *scale = nullptr;
+        g05caz(&code, &pieces, &carry_pair, &buffer, &scale);
+        g05cbc(606);
+        carry_pair[0] = carry;
+        std::vector<double> got;
+        for (int k = 0; k < 2000; ++k) got.push_back(g05ddc(-1.5, 0.25 + k % 3));
+        g05cbc(606);
+        carry_pair[0] = carry;
+        for (int k = 0; k < 2000; ++k)
+            ASSERT_EQ(got[k], reference_normal(-1.5, 0.25 + k % 3)) << carry << " " << k;
+    }
 }
 
 // Each variate is mapped through its distribution function and the results
