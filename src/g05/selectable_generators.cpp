@@ -69,16 +69,22 @@ double basic_step(int iseed[4]) {
 
 double wichmann_hill_step(int g, int iseed[4]) {
     const kiv::g05::WichmannHillRecord &record = kiv::g05::wichmann_hill_table[g];
-    double part[4];
-    for (int k = 0; k < 4; ++k) {
-        // a s < 2^31 for every seed the seeding routines make; unsigned
-        // arithmetic keeps any other array defined (it wraps).
+    // a s < 2^31 for every seed the seeding routines make; unsigned
+    // arithmetic keeps any other array defined (it wraps).
+    const auto next = [&](int k) {
         const std::uint32_t product =
             static_cast<std::uint32_t>(record.multiplier[k]) * static_cast<std::uint32_t>(iseed[k]);
-        iseed[k] = static_cast<int>(product % static_cast<std::uint32_t>(record.modulus[k]));
-        part[k] = static_cast<double>(iseed[k]) / static_cast<double>(record.modulus[k]);
-    }
-    const double u = ((part[0] + part[2]) + part[1]) + part[3];
+        return static_cast<int>(product % static_cast<std::uint32_t>(record.modulus[k]));
+    };
+    const int s0 = next(0), s1 = next(1), s2 = next(2), s3 = next(3);
+    iseed[0] = s0;
+    iseed[1] = s1;
+    iseed[2] = s2;
+    iseed[3] = s3;
+    const auto part = [&](int s, int k) {
+        return static_cast<double>(s) / static_cast<double>(record.modulus[k]);
+    };
+    const double u = ((part(s0, 0) + part(s2, 2)) + part(s1, 1)) + part(s3, 3);
     return u - static_cast<double>(static_cast<int>(u));
 }
 
