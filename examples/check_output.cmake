@@ -1,5 +1,6 @@
-# Runs PROGRAM and compares its standard output with the file EXPECTED.
-execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE actual ERROR_VARIABLE errors
+# Runs PROGRAM (under EMULATOR when given) and compares its standard
+# output with the file EXPECTED.
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} OUTPUT_VARIABLE actual ERROR_VARIABLE errors
                 RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
   message(FATAL_ERROR "${PROGRAM} exited with ${status}\n${errors}")

@@ -1,5 +1,5 @@
 # Runs the kiv tool once and checks its exit status and output.
-#   TOOL      the kiv executable
+#   TOOL      the kiv executable (run under EMULATOR when given)
 #   ARGS      its arguments, separated by "|"
 #   INPUT     file fed to standard input (default: empty)
 #   EXIT      expected exit status
@@ -10,8 +10,10 @@ string(REPLACE "|" ";" arguments "${ARGS}")
 if(NOT INPUT)
   set(INPUT /dev/null)
 endif()
-execute_process(COMMAND ${TOOL} ${arguments} INPUT_FILE ${INPUT}
+execute_process(COMMAND ${EMULATOR} ${TOOL} ${arguments} INPUT_FILE ${INPUT}
                 OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
+string(REPLACE "\r\n" "\n" out "${out}")
+string(REPLACE "\r\n" "\n" err "${err}")
 set(report "kiv ${arguments}\nexit ${status}\n--- stdout\n${out}--- stderr\n${err}")
 if(NOT status STREQUAL EXIT)
   message(FATAL_ERROR "expected exit status ${EXIT}\n${report}")
