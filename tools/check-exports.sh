@@ -43,7 +43,7 @@ compare() {
 
 dll=$(find "$build" -name libkiv.dll -print -quit)
 [[ -n $dll ]] || { echo "check-exports: no libkiv.dll under $build" >&2; exit 1; }
-mapfile -t routines < <(grep -o 'KIV_API[^;(]*(' "$root/include/kiv.h" |
+mapfile -t routines < <(grep -o '^KIV_API[^;(]*(' "$root/include/kiv.h" |
     sed -E 's/.*[ *]([A-Za-z0-9_]+) *\($/\1/')
 compare "$dll" "routines declared in kiv.h" "${routines[@]}"
 [[ -n $(find "$build" -name 'libkiv.dll.a' -print -quit) ]] || {
