@@ -124,12 +124,19 @@ void Table::print(std::FILE *out, const std::string &indent) const {
         if (row.size() > width.size()) width.resize(row.size(), 0);
         for (std::size_t j = 0; j < row.size(); ++j) width[j] = std::max(width[j], row[j].size());
     }
+    // The first column holds labels and is left-aligned, unless every entry
+    // under the heading is a number.
+    bool labels = false;
+    for (std::size_t i = 1; i < rows_.size(); ++i) {
+        double value = 0.0;
+        if (!rows_[i].empty() && !parse_double(rows_[i][0], value)) labels = true;
+    }
     auto print_row = [&](const std::vector<std::string> &row) {
         std::string line = indent;
         for (std::size_t j = 0; j < row.size(); ++j) {
             const std::string pad(width[j] - row[j].size(), ' ');
             if (j > 0) line += "  ";
-            line += (j == 0) ? row[j] + pad : pad + row[j];
+            line += (j == 0 && labels) ? row[j] + pad : pad + row[j];
         }
         while (!line.empty() && line.back() == ' ') line.pop_back();
         std::fprintf(out, "%s\n", line.c_str());

@@ -36,8 +36,8 @@ std::string significant(double value, int digits);
 // Errors name the file and the line.
 std::vector<double> read_numbers(const std::string &source);
 
-// A table printed with aligned columns: the first column left-aligned,
-// the others right-aligned, a rule under the heading.
+// A table printed with aligned columns: numbers right-aligned, a first
+// column of labels left-aligned, a rule under the heading.
 class Table {
 public:
     explicit Table(std::vector<std::string> heading);
