@@ -773,9 +773,18 @@ enum KivErrorCode {
     NE_NOT_AVAILABLE = 2015
 };
 
+/* In C++ the enumerations get int as their fixed underlying type, so that
+   any int value passed by a caller is a valid value of the type (and is
+   rejected by the routine's own check, not undefined). */
+#ifdef __cplusplus
+#  define KIV_ENUM_TYPE(tag) enum tag : int
+#else
+#  define KIV_ENUM_TYPE(tag) enum tag
+#endif
+
 /* Enumerations. Every member takes its value from one shared numbering,
    so no two members of any enumerations share a value. */
-typedef enum {
+typedef KIV_ENUM_TYPE(Kiv_Tail_tag) {
     Kiv_LowerTail = 1329,
     Kiv_UpperTail = 1330,
     Kiv_TwoTailSignif = 1331,
@@ -784,19 +793,19 @@ typedef enum {
     Kiv_Central = 1334
 } Kiv_Tail;
 
-typedef enum {
+typedef KIV_ENUM_TYPE(Kiv_IncludeMean_tag) {
     Kiv_MeanInclude = 1358,
     Kiv_MeanZero = 1359
 } Kiv_IncludeMean;
 
-typedef enum {
+typedef KIV_ENUM_TYPE(Kiv_SumSquare_tag) {
     Kiv_AboutMean = 1362,
     Kiv_AboutZero = 1363
 } Kiv_SumSquare;
 
 /* Storage order of a data matrix (g02buc): 1500 and 1501 are used by no
    other member of the shared numbering. */
-typedef enum {
+typedef KIV_ENUM_TYPE(Kiv_OrderType_tag) {
     Kiv_RowMajor = 1500,
     Kiv_ColMajor = 1501
 } Kiv_OrderType;
