@@ -1,0 +1,238 @@
+// Command-line arguments and outputs of `kiv <code> ARGS...`: parsing the
+// inputs by kind, checking array lengths before a routine can read past
+// them, and printing the outputs by name with round-trip digits.
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "routines.hpp"
+#include "text.hpp"
+
+namespace kiv::tool {
+
+namespace {
+
+struct EnumMember {
+    const char *name;
+    int value;
+    ArgKind kind;
+};
+
+constexpr EnumMember enum_members[] = {
+    {"Kiv_LowerTail", Kiv_LowerTail, ArgKind::Tail},
+    {"Kiv_UpperTail", Kiv_UpperTail, ArgKind::Tail},
+    {"Kiv_TwoTailSignif", Kiv_TwoTailSignif, ArgKind::Tail},
+    {"Kiv_TwoTailConfid", Kiv_TwoTailConfid, ArgKind::Tail},
+    {"Kiv_TwoTail", Kiv_TwoTail, ArgKind::Tail},
+    {"Kiv_Central", Kiv_Central, ArgKind::Tail},
+    {"Kiv_AboutMean", Kiv_AboutMean, ArgKind::SumSquare},
+    {"Kiv_AboutZero", Kiv_AboutZero, ArgKind::SumSquare},
+    {"Kiv_RowMajor", Kiv_RowMajor, ArgKind::Order},
+    {"Kiv_ColMajor", Kiv_ColMajor, ArgKind::Order},
+};
+
+constexpr long long largest_array = 1LL << 26;
+
+const char *kind_label(ArgKind kind) {
+    switch (kind) {
+        case ArgKind::Int:
+            return "INT";
+        case ArgKind::Double:
+            return "NUMBER";
+        case ArgKind::Tail:
+            return "Kiv_Tail";
+        case ArgKind::SumSquare:
+            return "Kiv_SumSquare";
+        case ArgKind::Order:
+            return "Kiv_OrderType";
+        case ArgKind::Doubles:
+            return "NUMBERS";
+        case ArgKind::OptDoubles:
+            return "NUMBERS|null";
+        case ArgKind::Ints:
+            return "INTS";
+        case ArgKind::OptInts:
+            return "INTS|null";
+    }
+    return "?";
+}
+
+int parse_enum(const ArgSpec &arg, const std::string &word) {
+    int value = 0;
+    if (parse_int(word, value)) return value;  // a raw value, valid or not
+    std::string members;
+    for (const auto &member : enum_members) {
+        if (member.kind != arg.kind) continue;
+        if (word == member.name) return member.value;
+        members += std::string(members.empty() ? "" : ", ") + member.name;
+    }
+    throw UsageError(std::string("argument ") + arg.name + ": '" + word + "' is not a member of " +
+                     kind_label(arg.kind) + " (" + members + ")");
+}
+
+std::vector<int> to_ints(const std::vector<double> &values, const char *name) {
+    std::vector<int> ints;
+    ints.reserve(values.size());
+    for (double v : values) {
+        if (!(v >= -2147483648.0 && v <= 2147483647.0) || v != std::floor(v))
+            throw UsageError(std::string("argument ") + name + ": " + round_trip(v) +
+                             " is not an integer");
+        ints.push_back(static_cast<int>(v));
+    }
+    return ints;
+}
+
+Inputs::Value parse_one(const ArgSpec &arg, const std::string &word) {
+    const bool optional = arg.kind == ArgKind::OptDoubles || arg.kind == ArgKind::OptInts;
+    if (optional && word == "null") return std::monostate{};
+    switch (arg.kind) {
+        case ArgKind::Int: {
+            int value = 0;
+            if (!parse_int(word, value))
+                throw UsageError(std::string("argument ") + arg.name + ": not an integer: '" +
+                                 word + "'");
+            return value;
+        }
+        case ArgKind::Double: {
+            double value = 0.0;
+            if (!parse_double(word, value))
+                throw UsageError(std::string("argument ") + arg.name + ": not a number: '" + word +
+                                 "'");
+            return value;
+        }
+        case ArgKind::Tail:
+        case ArgKind::SumSquare:
+        case ArgKind::Order:
+            return parse_enum(arg, word);
+        case ArgKind::Doubles:
+        case ArgKind::OptDoubles:
+            return read_numbers(word);
+        case ArgKind::Ints:
+        case ArgKind::OptInts:
+            return to_ints(read_numbers(word), arg.name);
+    }
+    return std::monostate{};
+}
+
+template <typename T>
+const T *checked_array(const Inputs::Value &value, const char *name, long long need) {
+    if (std::holds_alternative<std::monostate>(value)) return nullptr;
+    const auto &array = std::get<std::vector<T>>(value);
+    if (need > static_cast<long long>(array.size()))
+        throw UsageError(std::string("argument ") + name + " has " + std::to_string(array.size()) +
+                         " values but the call reads " + std::to_string(need));
+    return array.data();
+}
+
+}  // namespace
+
+const double *Inputs::doubles(std::size_t k, const char *name, long long need) const {
+    return checked_array<double>(values_[k], name, need);
+}
+
+const int *Inputs::ints(std::size_t k, const char *name, long long need) const {
+    return checked_array<int>(values_[k], name, need);
+}
+
+std::string enum_name(int value) {
+    for (const auto &member : enum_members)
+        if (member.value == value) return member.name;
+    return std::to_string(value);
+}
+
+Inputs parse_inputs(const RoutineSpec &spec, const std::vector<std::string> &words) {
+    if (words.size() != spec.inputs.size())
+        throw UsageError(std::string(spec.name) + " takes " + std::to_string(spec.inputs.size()) +
+                         " argument" + (spec.inputs.size() == 1 ? "" : "s") + ", " +
+                         std::to_string(words.size()) + " given\nusage: kiv " + usage_of(spec));
+    // Standard input can be read only once.
+    if (std::count(words.begin(), words.end(), "-") > 1)
+        throw UsageError("only one argument can be read from standard input ('-')");
+    std::vector<Inputs::Value> values;
+    for (std::size_t k = 0; k < words.size(); ++k)
+        values.push_back(parse_one(spec.inputs[k], words[k]));
+    return Inputs(std::move(values));
+}
+
+std::string usage_of(const RoutineSpec &spec) {
+    std::string text = spec.name;
+    for (const auto &arg : spec.inputs) text += std::string(" ") + arg.name;
+    text += "\n  ";
+    text += spec.summary;
+    for (const auto &arg : spec.inputs)
+        text += std::string("\n  ") + arg.name + ": " + kind_label(arg.kind);
+    return text;
+}
+
+std::vector<double> out_doubles(long long count) {
+    if (count > largest_array) throw UsageError("output array too large");
+    return std::vector<double>(static_cast<std::size_t>(std::max(count, 1LL)), std::nan(""));
+}
+
+std::vector<int> out_ints(long long count) {
+    if (count > largest_array) throw UsageError("output array too large");
+    return std::vector<int>(static_cast<std::size_t>(std::max(count, 1LL)), 0);
+}
+
+void Outputs::scalar(const char *name, double value) {
+    items_.push_back({name, {round_trip(value)}, 0, true});
+}
+
+void Outputs::integer(const char *name, long value) {
+    items_.push_back({name, {std::to_string(value)}, 0, true});
+}
+
+void Outputs::vector(const char *name, std::span<const double> values) {
+    Item item{name, {}, 0, false};
+    for (double v : values) item.cells.push_back(round_trip(v));
+    items_.push_back(std::move(item));
+}
+
+void Outputs::vector(const char *name, std::span<const int> values) {
+    Item item{name, {}, 0, false};
+    for (int v : values) item.cells.push_back(std::to_string(v));
+    items_.push_back(std::move(item));
+}
+
+void Outputs::matrix(const char *name, const double *values, int rows, int cols, int stride) {
+    Item item{name, {}, std::max(cols, 1), false};
+    for (int i = 0; i < rows; ++i)
+        for (int j = 0; j < cols; ++j)
+            item.cells.push_back(round_trip(values[static_cast<std::size_t>(i) * stride + j]));
+    items_.push_back(std::move(item));
+}
+
+void Outputs::print(std::FILE *out) const {
+    // A single unnamed result prints as the bare number, for scripts.
+    if (items_.size() == 1 && items_[0].is_scalar && items_[0].name == "result") {
+        std::fprintf(out, "%s\n", items_[0].cells[0].c_str());
+        return;
+    }
+    for (const auto &item : items_) {
+        if (item.columns == 0) {
+            std::string line = item.name + " =";
+            for (const auto &cell : item.cells) line += " " + cell;
+            std::fprintf(out, "%s\n", line.c_str());
+            continue;
+        }
+        std::size_t width = 0;
+        for (const auto &cell : item.cells) width = std::max(width, cell.size());
+        std::fprintf(out, "%s =\n", item.name.c_str());
+        for (std::size_t i = 0; i < item.cells.size(); i += item.columns) {
+            std::string line = " ";
+            for (std::size_t j = i; j < i + static_cast<std::size_t>(item.columns); ++j) {
+                line.append(width + 1 - item.cells[j].size(), ' ');
+                line.append(item.cells[j]);
+            }
+            std::fprintf(out, "%s\n", line.c_str());
+        }
+    }
+}
+
+const RoutineSpec *find_routine(std::string_view name) {
+    for (const auto &spec : routines())
+        if (name == spec.name) return &spec;
+    return nullptr;
+}
+
+}  // namespace kiv::tool

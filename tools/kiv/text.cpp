@@ -1,0 +1,151 @@
+// Text helpers of the kiv tool (see text.hpp).
+#include "text.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <climits>
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+namespace kiv::tool {
+
+bool parse_double(std::string_view text, double &value) {
+    if (text.empty() || text.size() > 200) return false;
+    const std::string copy(text);
+    if (std::isspace(static_cast<unsigned char>(copy.front()))) return false;
+    char *end = nullptr;
+    errno = 0;
+    const double parsed = std::strtod(copy.c_str(), &end);
+    if (end != copy.c_str() + copy.size()) return false;
+    // Hexadecimal input is accepted as strtod reads it; overflow to
+    // infinity is refused, underflow to a subnormal or zero is kept.
+    if (errno == ERANGE && std::isinf(parsed)) return false;
+    value = parsed;
+    return true;
+}
+
+bool parse_int(std::string_view text, int &value) {
+    if (text.empty() || text.size() > 40) return false;
+    const std::string copy(text);
+    if (std::isspace(static_cast<unsigned char>(copy.front()))) return false;
+    char *end = nullptr;
+    errno = 0;
+    const long long parsed = std::strtoll(copy.c_str(), &end, 10);
+    if (end != copy.c_str() + copy.size() || errno == ERANGE) return false;
+    if (parsed < INT_MIN || parsed > INT_MAX) return false;
+    value = static_cast<int>(parsed);
+    return true;
+}
+
+std::string round_trip(double value) {
+    return significant(value, 17);
+}
+
+std::string significant(double value, int digits) {
+    char buffer[64];
+    std::snprintf(buffer, sizeof buffer, "%.*g", digits, value);
+    return buffer;
+}
+
+namespace {
+
+// Splits one line of a number file into numbers, appending to `values`.
+void parse_number_line(const std::string &line, const std::string &where,
+                       std::vector<double> &values) {
+    const std::string content = line.substr(0, line.find('#'));
+    std::string token;
+    auto flush = [&] {
+        if (token.empty()) return;
+        double value = 0.0;
+        if (!parse_double(token, value))
+            throw UsageError(where + ": not a number: '" + token + "'");
+        values.push_back(value);
+        token.clear();
+    };
+    for (char c : content) {
+        if (c == ',' || c == ';' || std::isspace(static_cast<unsigned char>(c)))
+            flush();
+        else
+            token += c;
+    }
+    flush();
+}
+
+std::vector<double> read_number_stream(std::istream &in, const std::string &name) {
+    std::vector<double> values;
+    std::string line;
+    long line_number = 0;
+    while (std::getline(in, line)) {
+        ++line_number;
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        parse_number_line(line, name + ":" + std::to_string(line_number), values);
+    }
+    return values;
+}
+
+}  // namespace
+
+std::vector<double> read_numbers(const std::string &source) {
+    if (source == "-") return read_number_stream(std::cin, "<stdin>");
+    if (!source.empty() && source.front() == '@') {
+        const std::string path = source.substr(1);
+        std::ifstream file(path);
+        if (!file) throw UsageError("cannot open '" + path + "'");
+        return read_number_stream(file, path);
+    }
+    std::vector<double> values;
+    std::string token;
+    std::istringstream list(source);
+    while (std::getline(list, token, ',')) {
+        double value = 0.0;
+        if (!parse_double(token, value))
+            throw UsageError("not a number: '" + token + "' in the list '" + source + "'");
+        values.push_back(value);
+    }
+    if (values.empty()) throw UsageError("empty list of numbers");
+    return values;
+}
+
+Table::Table(std::vector<std::string> heading) {
+    rows_.push_back(std::move(heading));
+}
+
+void Table::add_row(std::vector<std::string> row) {
+    rows_.push_back(std::move(row));
+}
+
+void Table::print(std::FILE *out, const std::string &indent) const {
+    std::vector<std::size_t> width;
+    for (const auto &row : rows_) {
+        if (row.size() > width.size()) width.resize(row.size(), 0);
+        for (std::size_t j = 0; j < row.size(); ++j) width[j] = std::max(width[j], row[j].size());
+    }
+    // The first column holds labels and is left-aligned, unless every entry
+    // under the heading is a number.
+    bool labels = false;
+    for (std::size_t i = 1; i < rows_.size(); ++i) {
+        double value = 0.0;
+        if (!rows_[i].empty() && !parse_double(rows_[i][0], value)) labels = true;
+    }
+    auto print_row = [&](const std::vector<std::string> &row) {
+        std::string line = indent;
+        for (std::size_t j = 0; j < row.size(); ++j) {
+            const std::string pad(width[j] - row[j].size(), ' ');
+            if (j > 0) line += "  ";
+            line += (j == 0 && labels) ? row[j] + pad : pad + row[j];
+        }
+        while (!line.empty() && line.back() == ' ') line.pop_back();
+        std::fprintf(out, "%s\n", line.c_str());
+    };
+    print_row(rows_.front());
+    std::size_t total = 0;
+    for (std::size_t j = 0; j < width.size(); ++j) total += width[j] + (j > 0 ? 2 : 0);
+    std::fprintf(out, "%s%s\n", indent.c_str(), std::string(total, '-').c_str());
+    for (std::size_t i = 1; i < rows_.size(); ++i) print_row(rows_[i]);
+}
+
+}  // namespace kiv::tool
