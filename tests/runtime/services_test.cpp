@@ -7,8 +7,10 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <thread>
 
 #include "kiv.h"
+#include "runtime/platform.hpp"
 #include "runtime/testing.hpp"
 #include "runtime/workspace.hpp"
 
@@ -93,6 +95,25 @@ TEST(OutputDeathTest, UnwritableFileExitsWithStatusOne) {
     // /dev/full opens but every write fails (on flush or close).
     EXPECT_EXIT(x04bay("/dev/full", "x"), testing::ExitedWithCode(1),
                 "Unable To (Write to|Close) the Output File: /dev/full\n");
+}
+
+}  // namespace
+
+namespace {
+
+TEST(Locks, NamedLocksSerialiseThreadsAndCanBeRetaken) {
+    int counter = 0;
+    auto work = [&counter] {
+        for (int i = 0; i < 200; ++i) {
+            kiv::platform::IoLock io;
+            kiv::platform::AllocatorLock allocator;
+            ++counter;
+        }
+    };
+    std::thread first(work), second(work);
+    first.join();
+    second.join();
+    EXPECT_EQ(counter, 400);
 }
 
 }  // namespace
