@@ -52,8 +52,9 @@ TEST(AllocationFailure, EveryFailingAllocationIsReportedAndTheNextSucceeds) {
             EXPECT_TRUE(scratch.same_as(expected)) << call.routine;
             break;
         }
-        if (kMustAllocate.count(call.routine) != 0)
+        if (kMustAllocate.count(call.routine) != 0) {
             EXPECT_GT(failures, 0) << call.routine << " never reported NE_ALLOC_FAIL";
+        }
     }
 }
 
@@ -95,17 +96,18 @@ TEST(AllocationFailure, OverflowingSizesAreRefusedNotWrapped) {
 }
 
 // Without a record a failure prints and aborts the process, by design.
+void refused_allocation_without_record() {
+    double x[4] = {1, 2, 3, 4};
+    double corr[4];
+    fail_allocations_after(0);
+    g02brc(2, 2, x, 2, nullptr, nullptr, corr, 2, nullptr);
+}
+
 TEST(AllocationFailureDeathTest, NullRecordAborts) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_DEATH(
-        {
-            double x[4] = {1, 2, 3, 4};
-            double corr[4];
-            fail_allocations_after(0);
-            g02brc(2, 2, x, 2, nullptr, nullptr, corr, 2, nullptr);
-        },
-        "Error detected by KIV routine g02brc:\nNE_ALLOC_FAIL:\n  Memory allocation "
-        "failed.\n...Program Aborted");
+    EXPECT_DEATH(refused_allocation_without_record(),
+                 "Error detected by KIV routine g02brc:\nNE_ALLOC_FAIL:\n  Memory allocation "
+                 "failed.\n...Program Aborted");
 }
 
 }  // namespace

@@ -585,7 +585,9 @@ TEST(BadInput, EveryDocumentedCheckGivesItsCodeAndExactMessage) {
                 << got;
         }
         EXPECT_EQ(handler_calls, 1) << "one report per call";
-        if (c.keep == Keep::kAll) EXPECT_TRUE(scratch.untouched()) << "outputs written";
+        if (c.keep == Keep::kAll) {
+            EXPECT_TRUE(scratch.untouched()) << "outputs written";
+        }
         if (c.check) c.check(scratch);
     }
     for (const auto &[routine, count] : per_routine)

@@ -38,7 +38,9 @@ TEST(LicenceRefusal, RefusedCallsWriteNothing) {
         // running sums, g02bwc's matrix) are not outputs of the refused call.
         const bool prepares_inputs =
             std::strcmp(call.routine, "g02btc") == 0 || std::strcmp(call.routine, "g02bwc") == 0;
-        if (!prepares_inputs) EXPECT_TRUE(scratch.untouched()) << call.routine;
+        if (!prepares_inputs) {
+            EXPECT_TRUE(scratch.untouched()) << call.routine;
+        }
         EXPECT_EQ(fail.code, 4242) << call.routine;
         EXPECT_STREQ(fail.message, "untouched") << call.routine;
         EXPECT_EQ(fail.errnum, 99) << call.routine;
