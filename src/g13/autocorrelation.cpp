@@ -1,0 +1,268 @@
+// g13abc: sample mean, variance and autocorrelations of a series, with the
+// Box-Pierce portmanteau statistic.
+//
+// Definition. For a series x_1 ... x_n (n > 1) and lags 1 ... K (0 < K < n):
+//   mean  xm = (1/n) sum x_i,    S = sum (x_i - xm)^2,    xv = S / (n - 1),
+//   c_k   = sum_{i=1}^{n-k} (x_{i+k} - xm)(x_i - xm),
+//   r_k   = c_k / S   (every lag over the divisor S of the whole series),
+//   stat  = n * sum_{k=1}^{K} r_k^2   (Box-Pierce).
+// A series whose variance is not above 4 eps^2 (eps = x02ajc()) is treated
+// as constant: xm and xv are returned and NE_TIME_SERIES_IDEN is reported.
+// NaN or infinite values are not rejected: they propagate through the
+// arithmetic into xm, xv, r and stat (IEEE semantics, no trap).
+//
+// Method.
+// - Mean and S in one pass by updating (Welford 1962, West 1979): xm = x_1,
+//   S = 0; for i = 2 ... n: d = x_i - xm, e = d / i, xm += e,
+//   S += (i - 1) e d. The divide is kept (no reciprocal) so that the update
+//   is the textbook one, bit for bit.
+// - The deviations x_i - xm are formed once into a work array; c_k is then
+//   the straight sum over increasing i with one accumulator per lag, exactly
+//   as written above. The straight sum of one lag is bound by the latency of
+//   the floating-point add; instead of splitting a lag into several partial
+//   sums (which changes the rounding), neighbouring lags are summed together,
+//   one independent accumulator each, two or four lags per vector register
+//   (lag blocking: blocks of 16 lags with SSE2/NEON, 32 with AVX, chosen at
+//   run time on x86-64), over chunks of kChunk indices that stay in the
+//   first-level cache. Each lag's accumulator still sees its terms in
+//   increasing i and no fused multiply-add is used, so every c_k is
+//   bit-identical to the single-accumulator sum; only the time changes.
+//
+// Accuracy (measured, n = 1e5, 63 lags; tests/g13/autocorrelation_test.cpp
+// tests the bounds):
+// - c_k equals the straight double sum bit for bit (both kernels);
+// - against straight long double sums over the routine's S,
+//   |r_k - c_k / S| <= 0.6 ulp(1) for white noise, 71 ulp(1) for AR(1) with
+//   phi = 0.95 (large partial sums) and 15 ulp(1) for AR(1) with phi = -0.6
+//   around 1e6; the test bound is 100 ulp(1);
+// - xm, xv from the updating algorithm: xv within 1e-14 relative of a
+//   two-pass long double value for series centred near zero, 2.6e-12 for the
+//   series around 1e6 with standard deviation 0.36 (the error grows with
+//   |mean| / sd; that error in S then dominates r_k: 8.4e3 ulp(1) against a
+//   two-pass reference).
+//
+// References.
+// - G. E. P. Box and D. A. Pierce, Distribution of residual autocorrelations
+//   in autoregressive-integrated moving average time series models, Journal
+//   of the American Statistical Association 65 (1970), 1509-1526.
+// - B. P. Welford, Note on a method for calculating corrected sums of
+//   squares and products, Technometrics 4 (1962), 419-420.
+// - D. H. D. West, Updating mean and variance estimates: an improved method,
+//   Communications of the ACM 22 (1979), 532-535.
+// - N. J. Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed.,
+//   SIAM, Philadelphia, 2002, chapter 4 (summation).
+#include "g13/autocorrelation.hpp"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+#include "g13/arguments.hpp"
+#include "kiv.h"
+#include "runtime/report.hpp"
+#include "runtime/workspace.hpp"
+
+namespace kiv::g13 {
+
+namespace {
+
+// Indices per chunk: two 16 KiB windows of the deviations (around i and
+// around i + k) stay in the first-level cache while all lags visit them.
+constexpr std::size_t kChunk = 2048;
+
+#if defined(__GNUC__)
+#define KIV_INLINE [[gnu::always_inline]] inline
+// Lags side by side in one vector register (GCC and Clang vector
+// extension): element j of a vector only ever meets element j of another,
+// so each lag keeps its own in-order sum.
+using Pair = double __attribute__((vector_size(16)));  // SSE2, NEON
+#if defined(__x86_64__) && !defined(_WIN32)
+// Four lags per AVX register, chosen at run time on processors with AVX
+// (no fused multiply-add: the rounding stays that of the plain loop).
+#define KIV_AVX_KERNEL 1
+using Quad = double __attribute__((vector_size(32)));
+#endif
+#else
+#define KIV_INLINE inline
+struct Pair {};
+#endif
+
+// The main loop of a block: indices [begin, common_end) of Lags lags, all of
+// which have terms there. One accumulator per lag, terms in increasing i,
+// Vec holding sizeof(Vec) / 8 neighbouring lags.
+template <class Vec, std::size_t Lags>
+KIV_INLINE void accumulate_common(const double *dev, std::size_t first, std::size_t begin,
+                                  std::size_t common_end, double *acc) {
+    const double *ahead = dev + first;
+#if defined(__GNUC__)
+    constexpr std::size_t kLanes = sizeof(Vec) / sizeof(double);
+    if constexpr (Lags % kLanes == 0) {
+        constexpr std::size_t kVectors = Lags / kLanes;
+        Vec sums[kVectors];
+        std::memcpy(sums, acc, sizeof sums);
+        for (std::size_t i = begin; i < common_end; ++i) {
+            const Vec lead = Vec{} + dev[i];
+            for (std::size_t j = 0; j < kVectors; ++j) {
+                Vec later;
+                std::memcpy(&later, ahead + i + kLanes * j, sizeof later);
+                sums[j] += later * lead;
+            }
+        }
+        std::memcpy(acc, sums, sizeof sums);
+        return;
+    }
+#endif
+    for (std::size_t i = begin; i < common_end; ++i) {
+        const double lead = dev[i];
+        for (std::size_t j = 0; j < Lags; ++j) acc[j] += ahead[i + j] * lead;
+    }
+}
+
+// Adds to c[j] (lag first + j) the terms of indices [begin, end) of each of
+// Lags consecutive lags, one accumulator per lag, in increasing index.
+template <class Vec, std::size_t Lags>
+KIV_INLINE void accumulate_lag_block(const double *dev, std::size_t n, std::size_t first,
+                                     std::size_t begin, std::size_t end, double *c) {
+    const std::size_t last = first + Lags - 1;
+    // Indices at which all Lags lags still have terms.
+    const std::size_t common_end = n > last ? std::max(begin, std::min(end, n - last)) : begin;
+    double acc[Lags];
+    for (std::size_t j = 0; j < Lags; ++j) acc[j] = c[j];
+    accumulate_common<Vec, Lags>(dev, first, begin, common_end, acc);
+    // The shorter lags have a few terms more at the end of the series.
+    for (std::size_t j = 0; j < Lags; ++j) {
+        const std::size_t lag = first + j;
+        const std::size_t stop = n > lag ? std::min(end, n - lag) : begin;
+        for (std::size_t t = common_end; t < stop; ++t) acc[j] += dev[t + lag] * dev[t];
+        c[j] = acc[j];
+    }
+}
+
+// All lags, chunk by chunk: blocks of Block lags (eight vector accumulators,
+// enough to hide the latency of the add), then halving blocks for the rest.
+template <class Vec, std::size_t Block>
+KIV_INLINE void lagged_products_by_blocks(const double *dev, std::size_t n, std::size_t nk,
+                                          double *c) {
+    std::fill(c, c + nk, 0.0);
+    for (std::size_t begin = 0; begin < n; begin += kChunk) {
+        const std::size_t end = std::min(n, begin + kChunk);
+        std::size_t lag = 1;
+        for (; lag + Block - 1 <= nk; lag += Block)
+            accumulate_lag_block<Vec, Block>(dev, n, lag, begin, end, c + lag - 1);
+        if constexpr (Block > 16) {
+            if (lag + 15 <= nk) {
+                accumulate_lag_block<Vec, 16>(dev, n, lag, begin, end, c + lag - 1);
+                lag += 16;
+            }
+        }
+        if (lag + 7 <= nk) {
+            accumulate_lag_block<Vec, 8>(dev, n, lag, begin, end, c + lag - 1);
+            lag += 8;
+        }
+        if (lag + 3 <= nk) {
+            accumulate_lag_block<Vec, 4>(dev, n, lag, begin, end, c + lag - 1);
+            lag += 4;
+        }
+        if (lag + 1 <= nk) {
+            accumulate_lag_block<Pair, 2>(dev, n, lag, begin, end, c + lag - 1);
+            lag += 2;
+        }
+        if (lag <= nk) accumulate_lag_block<Pair, 1>(dev, n, lag, begin, end, c + lag - 1);
+    }
+}
+
+#if defined(KIV_AVX_KERNEL)
+__attribute__((target("avx"))) void lagged_products_avx(const double *dev, std::size_t n,
+                                                        std::size_t nk, double *c) {
+    lagged_products_by_blocks<Quad, 32>(dev, n, nk, c);
+}
+#endif
+
+}  // namespace
+
+void lagged_products(const double *dev, std::size_t n, std::size_t nk, double *c) {
+#if defined(KIV_AVX_KERNEL)
+    if (__builtin_cpu_supports("avx")) {
+        lagged_products_avx(dev, n, nk, c);
+        return;
+    }
+#endif
+    lagged_products_portable(dev, n, nk, c);
+}
+
+void lagged_products_portable(const double *dev, std::size_t n, std::size_t nk, double *c) {
+    lagged_products_by_blocks<Pair, 16>(dev, n, nk, c);
+}
+
+void mean_and_sum_of_squares(const double *x, std::size_t n, double *mean, double *sum_squares) {
+    double xm = x[0];
+    double s = 0.0;
+    for (std::size_t i = 2; i <= n; ++i) {
+        const double count = static_cast<double>(i);
+        const double d = x[i - 1] - xm;
+        const double e = d / count;
+        xm += e;
+        s += (count - 1.0) * e * d;
+    }
+    *mean = xm;
+    *sum_squares = s;
+}
+
+}  // namespace kiv::g13
+
+extern "C" {
+
+KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv, double r[],
+                    double *stat, KivError *fail) {
+    namespace rt = kiv::rt;
+    static constexpr const char *kRoutine = "g13abc";
+    if (!rt::licence_check()) return;
+    rt::clear_code(fail);
+
+    if (nx <= 1) {
+        rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "nx", "1", "nx", static_cast<long>(nx));
+        return;
+    }
+    if (nk <= 0) {
+        rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "nk", "0", "nk", static_cast<long>(nk));
+        return;
+    }
+    if (nk >= nx) {
+        rt::report_template(fail, kRoutine, NE_2_INT_ARG_LE, "nx", static_cast<long>(nx), "nk",
+                            static_cast<long>(nk), "nx", "nk");
+        return;
+    }
+    if (kiv::g13::report_null_argument(
+            fail, kRoutine, {{x, "x"}, {xm, "xm"}, {xv, "xv"}, {r, "r"}, {stat, "stat"}}))
+        return;
+
+    const auto n = static_cast<std::size_t>(nx);
+    const auto lags = static_cast<std::size_t>(nk);
+    rt::WorkArray<double> deviations(nx);
+    if (!deviations.ok()) {
+        rt::report_code(fail, kRoutine, NE_ALLOC_FAIL);
+        return;
+    }
+
+    double sum_squares = 0.0;
+    kiv::g13::mean_and_sum_of_squares(x, n, xm, &sum_squares);
+    *xv = sum_squares / static_cast<double>(nx - 1);
+    const double eps = x02ajc();
+    if (4.0 * eps * eps >= *xv) {
+        rt::report_template(fail, kRoutine, NE_TIME_SERIES_IDEN, "x");
+        return;
+    }
+
+    const double mean = *xm;
+    for (std::size_t i = 0; i < n; ++i) deviations[i] = x[i] - mean;
+    kiv::g13::lagged_products(deviations.get(), n, lags, r);
+    double box_pierce = 0.0;
+    for (std::size_t k = 0; k < lags; ++k) {
+        r[k] /= sum_squares;
+        box_pierce += static_cast<double>(nx) * (r[k] * r[k]);
+    }
+    *stat = box_pierce;
+    rt::report_success(fail, kRoutine);
+}
+
+}  // extern "C"
