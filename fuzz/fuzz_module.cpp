@@ -84,12 +84,14 @@ void distribution(Decoder &in) {
         case 0:
             list.addresses = {&tail, &a, &record.pointer};
             got = call<double>("g01eac_chdl", list);
-            expected = symbol<double (*)(int, double, KivError *)>("g01eac")(tail, a, &direct);
+            expected = symbol<double (*)(Kiv_Tail, double, KivError *)>("g01eac")(
+                static_cast<Kiv_Tail>(tail), a, &direct);
             break;
         case 1:
             list.addresses = {&tail, &a, &record.pointer};
             got = call<double>("g01fac_chdl", list);
-            expected = symbol<double (*)(int, double, KivError *)>("g01fac")(tail, a, &direct);
+            expected = symbol<double (*)(Kiv_Tail, double, KivError *)>("g01fac")(
+                static_cast<Kiv_Tail>(tail), a, &direct);
             break;
         case 2:
             list.addresses = {&a, &record.pointer};
@@ -99,14 +101,14 @@ void distribution(Decoder &in) {
         case 3:
             list.addresses = {&tail, &a, &b, &record.pointer};
             got = call<double>("g01ecc_chdl", list);
-            expected =
-                symbol<double (*)(int, double, double, KivError *)>("g01ecc")(tail, a, b, &direct);
+            expected = symbol<double (*)(Kiv_Tail, double, double, KivError *)>("g01ecc")(
+                static_cast<Kiv_Tail>(tail), a, b, &direct);
             break;
         default:
             list.addresses = {&tail, &a, &b, &c, &record.pointer};
             got = call<double>("g01efc_chdl", list);
-            expected = symbol<double (*)(int, double, double, double, KivError *)>("g01efc")(
-                tail, a, b, c, &direct);
+            expected = symbol<double (*)(Kiv_Tail, double, double, double, KivError *)>("g01efc")(
+                static_cast<Kiv_Tail>(tail), a, b, c, &direct);
             break;
     }
     check_frame(list);
@@ -124,11 +126,14 @@ void moments(Decoder &in) {
     double *wt_pointer = nullptr;
     int nvalid = -1;
     double out[7] = {};
+    // Pointer arguments travel as the address of the pointer value.
+    int *nvalid_pointer = &nvalid;
+    double *o[7];
+    for (int k = 0; k < 7; ++k) o[k] = &out[k];
     Record record(in);
     ArgumentList list;
-    list.addresses = {&n,      &x_pointer, &wt_pointer, &nvalid, &out[0], &out[1],
-                      &out[2], &out[3],    &out[4],     &out[5], &out[6], &record.pointer};
-    // Pointer arguments travel as the address of the pointer value.
+    list.addresses = {&n,    &x_pointer, &wt_pointer, &nvalid_pointer, &o[0], &o[1],
+                      &o[2], &o[3],      &o[4],       &o[5],           &o[6], &record.pointer};
     call<void>("g01aac_chdl", list);
     check_frame(list);
     record.check(list);
