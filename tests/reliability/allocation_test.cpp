@@ -14,6 +14,10 @@
 #include "catalogue.hpp"
 #include "runtime/testing.hpp"
 
+// The huge requests below must come back from the heap as null (as they do
+// from the C library's malloc) rather than stop AddressSanitizer.
+extern "C" const char *__asan_default_options() { return "allocator_may_return_null=1"; }
+
 namespace kiv::reliability {
 namespace {
 
@@ -34,7 +38,10 @@ TEST(AllocationFailure, EveryFailingAllocationIsReportedAndTheNextSucceeds) {
         expected.reset();
         KivError expected_fail = quiet_record();
         call.run(expected, &expected_fail, 3);
-        ASSERT_EQ(expected_fail.code, 0) << call.routine << ": " << expected_fail.message;
+        if (expected_fail.code != 0) {
+            ADD_FAILURE() << call.routine << ": " << expected_fail.message;
+            continue;
+        }
 
         int failures = 0;
         for (long allowed = 0; allowed < 64; ++allowed) {
@@ -77,7 +84,8 @@ TEST(AllocationFailure, GeneratorsSurviveRefusalsOnFirstUse) {
 }
 
 // Counts and strides at the top of the int range: the element counts and
-// their byte sizes overflow 32-bit (and here 64-bit) arithmetic. Each call
+// their byte sizes overflow 32-bit arithmetic, and n x m x 8 overflows
+// 64-bit size_t too; requests that fit are too large for any heap. Each call
 // is otherwise valid up to the allocation, and its arrays are tiny: the
 // routine must refuse with NE_ALLOC_FAIL, never allocate a wrapped size
 // and run over the arrays.
