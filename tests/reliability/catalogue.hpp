@@ -1,0 +1,66 @@
+// A catalogue of calls with valid arguments, one per routine, shared by the
+// thread, allocation-failure and licence tests. Every call reads inputs made
+// from its variant number and writes its results into a Scratch area whose
+// contents, with the record, are the call's whole observable outcome.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "kiv.h"
+
+namespace kiv::reliability {
+
+inline constexpr double kSentinel = -7777.25;
+inline constexpr int kIntSentinel = -7777;
+
+struct Scratch {
+    std::array<double, 400> out;
+    std::array<int, 16> iout;
+    double result;
+
+    void reset() {
+        out.fill(kSentinel);
+        iout.fill(kIntSentinel);
+        result = kSentinel;
+    }
+    bool untouched() const {
+        for (double v : out)
+            if (std::bit_cast<std::uint64_t>(v) != std::bit_cast<std::uint64_t>(kSentinel))
+                return false;
+        for (int v : iout)
+            if (v != kIntSentinel) return false;
+        return true;
+    }
+    bool same_as(const Scratch &other) const {
+        for (std::size_t i = 0; i < out.size(); ++i)
+            if (std::bit_cast<std::uint64_t>(out[i]) != std::bit_cast<std::uint64_t>(other.out[i]))
+                return false;
+        return iout == other.iout &&
+               std::bit_cast<std::uint64_t>(result) == std::bit_cast<std::uint64_t>(other.result);
+    }
+};
+
+struct Call {
+    const char *routine;
+    bool has_record;  // takes a KivError and runs the licence check
+    void (*run)(Scratch &scratch, KivError *fail, int variant);
+};
+
+// Every routine of the library, with valid arguments.
+const std::vector<Call> &catalogue();
+
+// A reproducible value in [-1, 1) from (variant, index).
+double sample(int variant, int index);
+
+// A quiet record.
+inline KivError quiet_record() {
+    KivError fail{};
+    fail.print = 0;
+    return fail;
+}
+
+}  // namespace kiv::reliability
