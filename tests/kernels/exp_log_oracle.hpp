@@ -1,5 +1,5 @@
 // MPFR oracle for the accuracy tests of the exponential, logarithm, error
-// functions and normal distribution: references at 256 bits, and errors
+// functions and normal distribution: references at 128 bits, and errors
 // measured in ulps or relative to the reference.
 #pragma once
 
@@ -13,10 +13,10 @@
 
 namespace kiv::oracle {
 
-// An MPFR number at 256 bits, freed at scope exit.
+// An MPFR number at 128 bits, freed at scope exit.
 class Real {
 public:
-    Real() { mpfr_init2(value_, 256); }
+    Real() { mpfr_init2(value_, 128); }
     explicit Real(double x) : Real() { mpfr_set_d(value_, x, MPFR_RNDN); }
     Real(const Real &) = delete;
     Real &operator=(const Real &) = delete;
@@ -52,7 +52,7 @@ inline double relative_error(double computed, const Real &exact) {
     return std::fabs(mpfr_get_d(difference.get(), MPFR_RNDN));
 }
 
-// Phi(x) = erfc(-x / sqrt 2) / 2, the standard normal lower tail, at 256 bits.
+// Phi(x) = erfc(-x / sqrt 2) / 2, the standard normal lower tail, at 128 bits.
 inline void normal_lower_tail(Real &result, double x) {
     Real root_two;
     mpfr_sqrt_ui(root_two.get(), 2, MPFR_RNDN);
