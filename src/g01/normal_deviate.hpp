@@ -14,12 +14,24 @@ namespace kiv::g01 {
 // Rational approximations, numerator and denominator, constant term first.
 // Central region, in s = t^2 with t = q sqrt(2 pi):
 inline constexpr double kCentralNumerator[] = {
-    1.0,           -41.63362762616374,   64.94128979404664,     -36.89355386573687,
-    8.984374887949292, -0.8486205099916682, 0.01799227452322391, 0.00012434847784254828,
+    1.0,
+    -41.63362762616374,
+    64.94128979404664,
+    -36.89355386573687,
+    8.984374887949292,
+    -0.8486205099916682,
+    0.01799227452322391,
+    0.00012434847784254828,
 };
 inline constexpr double kCentralDenominator[] = {
-    1.0,           -41.80029429283041,  71.84967217618504,   -46.45534714071778,
-    13.57696314152835, -1.714887182301168, 0.06929108687616727, 1.5e-9,
+    1.0,
+    -41.80029429283041,
+    71.84967217618504,
+    -46.45534714071778,
+    13.57696314152835,
+    -1.714887182301168,
+    0.06929108687616727,
+    1.5e-9,
 };
 // Intermediate region, in u = |q| - 0.3:
 inline constexpr double kMiddleNumerator[] = {
@@ -27,12 +39,16 @@ inline constexpr double kMiddleNumerator[] = {
     68.25030402764662,  -96.23966784668193, -10.47655255702662,
 };
 inline constexpr double kMiddleDenominator[] = {
-    1.0, -11.37563668160269, 41.33878042998575, -43.59278882675467, -21.25589975172773,
+    1.0,
+    -11.37563668160269,
+    41.33878042998575,
+    -43.59278882675467,
+    -21.25589975172773,
     25.0861060307781,
 };
 // Tail region, correction to v = sqrt(-2 ln r):
 inline constexpr double kTailNumerator[] = {
-    -3.012472607913056, 2.982419254309647,    22.70676420727861,      7.670763790822552,
+    -3.012472607913056, 2.982419254309647,    22.70676420727861,     7.670763790822552,
     0.5519186629029667, 0.007985443046076538, 4.150184151574655e-06,
 };
 inline constexpr double kTailDenominator[] = {
@@ -75,8 +91,8 @@ inline V deviate_tail(V p, V sign) {
     const V complement = 1.0 - p;
     const V r = kernels::select(p < complement, p, complement);
     const V v = kernels::square_root(-2.0 * kernels::log_positive(r));
-    return sign * (v + kernels::polynomial(v, kTailNumerator) /
-                           kernels::polynomial(v, kTailDenominator));
+    return sign *
+           (v + kernels::polynomial(v, kTailNumerator) / kernels::polynomial(v, kTailDenominator));
 }
 
 // The deviate x with P(X <= x) = p, for 0 < p < 1.

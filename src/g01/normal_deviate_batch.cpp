@@ -32,7 +32,9 @@ constexpr const char *kInternalErrorAt =
     "  then please consult KIV for assistance.";
 
 // The tails whose deviate is the kernel's, negated.
-bool negates(Kiv_Tail tail) { return tail == Kiv_UpperTail || tail == Kiv_TwoTailSignif; }
+bool negates(Kiv_Tail tail) {
+    return tail == Kiv_UpperTail || tail == Kiv_TwoTailSignif;
+}
 
 // The kernel argument exactly as g01fac forms it.
 template <class V>
@@ -46,7 +48,9 @@ inline V mapped(V p, Kiv_Tail tail) {
 using kiv::kernels::Lanes4;
 using kiv::kernels::Mask4;
 
-inline Mask4 inside_unit_interval(Lanes4 p) { return (p > 0.0) & (p < 1.0); }
+inline Mask4 inside_unit_interval(Lanes4 p) {
+    return (p > 0.0) & (p < 1.0);
+}
 
 // Computes every element; true when some element failed.
 bool deviates_lanes(Kiv_Tail tail, int n, const double *p, double *out) {

@@ -15,7 +15,9 @@ constexpr double kOverflowThreshold = 0x1.62e42fefa39efp+9;    // 709.7827128933
 constexpr double kUnderflowThreshold = -0x1.74910d52d3051p+9;  // -745.1332191019411
 
 // 2^e for -1022 <= e <= 1023.
-double power_of_two(std::int64_t e) { return from_bits((e + 1023) << 52); }
+double power_of_two(std::int64_t e) {
+    return from_bits((e + 1023) << 52);
+}
 }  // namespace
 
 double exp(double x) {

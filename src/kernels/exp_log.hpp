@@ -54,14 +54,14 @@ double log(double x);
 
 namespace detail {
 
-inline constexpr double kLog2E = 0x1.71547652b82fep0;       // 1/ln 2
-inline constexpr double kLn2High = 0x1.62e42feep-1;         // 32 trailing zeros
-inline constexpr double kLn2Low = 0x1.a39ef35793c76p-33;    // ln 2 - kLn2High
-inline constexpr double kRoundingShift = 0x1.8p52;          // x + shift - shift rounds x
+inline constexpr double kLog2E = 0x1.71547652b82fep0;     // 1/ln 2
+inline constexpr double kLn2High = 0x1.62e42feep-1;       // 32 trailing zeros
+inline constexpr double kLn2Low = 0x1.a39ef35793c76p-33;  // ln 2 - kLn2High
+inline constexpr double kRoundingShift = 0x1.8p52;        // x + shift - shift rounds x
 
 // P(z), z = r^2: (r coth(r/2) - 2)/z on [0, 0.1201], constant term first.
 inline constexpr double kExpP[] = {
-    0x1.5555555555553p-3,  -0x1.6c16c16c0abf9p-9,  0x1.1566ab5c1473dp-14,
+    0x1.5555555555553p-3,   -0x1.6c16c16c0abf9p-9, 0x1.1566ab5c1473dp-14,
     -0x1.bbd532227cf4dp-20, 0x1.63f27409701ecp-25,
 };
 

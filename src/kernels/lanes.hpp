@@ -53,13 +53,27 @@ inline double select(bool mask, double if_true, double if_false) {
     return mask ? if_true : if_false;
 }
 
-inline std::int64_t to_bits(double x) { return std::bit_cast<std::int64_t>(x); }
-inline double from_bits(std::int64_t bits) { return std::bit_cast<double>(bits); }
-inline double absolute(double x) { return from_bits(to_bits(x) & INT64_MAX); }
-inline double square_root(double x) { return __builtin_sqrt(x); }
-inline bool any(bool mask) { return mask; }
-inline bool complement(bool mask) { return !mask; }
-inline double broadcast(double x, double) { return x; }
+inline std::int64_t to_bits(double x) {
+    return std::bit_cast<std::int64_t>(x);
+}
+inline double from_bits(std::int64_t bits) {
+    return std::bit_cast<double>(bits);
+}
+inline double absolute(double x) {
+    return from_bits(to_bits(x) & INT64_MAX);
+}
+inline double square_root(double x) {
+    return __builtin_sqrt(x);
+}
+inline bool any(bool mask) {
+    return mask;
+}
+inline bool complement(bool mask) {
+    return !mask;
+}
+inline double broadcast(double x, double) {
+    return x;
+}
 
 // ---- four lanes -------------------------------------------------------------
 
@@ -68,9 +82,15 @@ inline Lanes4 select(Mask4 mask, Lanes4 if_true, Lanes4 if_false) {
     return mask ? if_true : if_false;
 }
 
-inline Mask4 to_bits(Lanes4 x) { return (Mask4)x; }
-inline Lanes4 from_bits(Mask4 bits) { return (Lanes4)bits; }
-inline Lanes4 absolute(Lanes4 x) { return from_bits(to_bits(x) & INT64_MAX); }
+inline Mask4 to_bits(Lanes4 x) {
+    return (Mask4)x;
+}
+inline Lanes4 from_bits(Mask4 bits) {
+    return (Lanes4)bits;
+}
+inline Lanes4 absolute(Lanes4 x) {
+    return from_bits(to_bits(x) & INT64_MAX);
+}
 inline Lanes4 square_root(Lanes4 x) {
     Lanes4 root;
     for (int i = 0; i < 4; ++i) root[i] = __builtin_sqrt(x[i]);
@@ -82,9 +102,15 @@ inline Lanes4 select(Mask4 mask, double if_true, Lanes4 if_false) {
 inline Lanes4 select(Mask4 mask, Lanes4 if_true, double if_false) {
     return mask ? if_true : Lanes4{if_false, if_false, if_false, if_false};
 }
-inline Mask4 complement(Mask4 mask) { return ~mask; }
-inline bool any(Mask4 mask) { return (mask[0] | mask[1] | mask[2] | mask[3]) != 0; }
-inline Lanes4 broadcast(double x, Lanes4) { return Lanes4{x, x, x, x}; }
+inline Mask4 complement(Mask4 mask) {
+    return ~mask;
+}
+inline bool any(Mask4 mask) {
+    return (mask[0] | mask[1] | mask[2] | mask[3]) != 0;
+}
+inline Lanes4 broadcast(double x, Lanes4) {
+    return Lanes4{x, x, x, x};
+}
 
 // Loads `count` (1 to 4) values, filling the remaining lanes with `fill`.
 inline Lanes4 load_partial(const double *source, int count, double fill) {
@@ -100,7 +126,9 @@ inline Lanes4 load(const double *source) {
     std::memcpy(&v, source, sizeof v);
     return v;
 }
-inline void store(double *target, Lanes4 v) { std::memcpy(target, &v, sizeof v); }
+inline void store(double *target, Lanes4 v) {
+    std::memcpy(target, &v, sizeof v);
+}
 
 // out[i] = kernel(in[i]) for i < n, four at a time; the lanes beyond n in
 // the last group hold `fill`, a value inside the kernel's domain.

@@ -55,14 +55,20 @@ constexpr double kNormalIntegralScale = 0x1.6a09e667f3bccp-1;
 
 extern "C" {
 
-KIV_API double s15adc(double x) { return kiv::special::erfc_value(x); }
+KIV_API double s15adc(double x) {
+    return kiv::special::erfc_value(x);
+}
 
-KIV_API double s15aec(double x) { return kiv::special::erf_value(x); }
+KIV_API double s15aec(double x) {
+    return kiv::special::erf_value(x);
+}
 
 KIV_API double s15abc(double x) {
     return kiv::special::erfc_value(x * -kNormalIntegralScale) * 0.5;
 }
 
-KIV_API double s15acc(double x) { return kiv::special::erfc_value(x * kNormalIntegralScale) * 0.5; }
+KIV_API double s15acc(double x) {
+    return kiv::special::erfc_value(x * kNormalIntegralScale) * 0.5;
+}
 
 }  // extern "C"

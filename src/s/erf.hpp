@@ -12,39 +12,62 @@ namespace kiv::special {
 // erfc(x) = e^(-x^2) y(t), t = (|x| - 3.75)/(|x| + 3.75), for x >= 0:
 // coefficients c_0 ... c_22 of y(t), constant term first.
 inline constexpr double kErfcSeries[] = {
-    0.1455897212750385,     -0.273421931495426,     0.2260080669166197,
-    -0.1635718955239687,    0.1026043120322792,     -0.05480232669380236,
-    0.02414322397093253,    -0.008220621168415435,  0.001802962431316418,
-    -2.553523453642242e-05, -0.0001524627476123466, 4.789838226695987e-05,
-    3.584014089915968e-06,  -6.182369348098529e-06, 7.47831710178579e-07,
-    6.575825478226343e-07,  -1.822565715362025e-07, -7.043998994397452e-08,
-    3.026547320064576e-08,  7.532536116142436e-09,  -4.066088879757269e-09,
-    -5.718639670776992e-10, 3.328130055126039e-10,
+    0.1455897212750385,     -0.273421931495426,     0.2260080669166197,     -0.1635718955239687,
+    0.1026043120322792,     -0.05480232669380236,   0.02414322397093253,    -0.008220621168415435,
+    0.001802962431316418,   -2.553523453642242e-05, -0.0001524627476123466, 4.789838226695987e-05,
+    3.584014089915968e-06,  -6.182369348098529e-06, 7.47831710178579e-07,   6.575825478226343e-07,
+    -1.822565715362025e-07, -7.043998994397452e-08, 3.026547320064576e-08,  7.532536116142436e-09,
+    -4.066088879757269e-09, -5.718639670776992e-10, 3.328130055126039e-10,
 };
 
 // Chebyshev coefficients of erf(x)/x in s = x^2 - 2 for |x| <= 2, a_0 first.
 inline constexpr double kErfSmall[] = {
-    1.4831105640848037, -0.301071073386595, 0.0689948306898316, -0.0139162712647222,
-    0.0024207995224335, -0.0003658639685849, 4.86209844323e-05, -5.749256558e-06,
-    6.113243578e-07,    -5.89910153e-08,    5.2070091e-09,      -4.232976e-10,
-    3.18811e-11,        -2.2361e-12,        1.467e-13,          -9e-15,
+    1.4831105640848037,
+    -0.301071073386595,
+    0.0689948306898316,
+    -0.0139162712647222,
+    0.0024207995224335,
+    -0.0003658639685849,
+    4.86209844323e-05,
+    -5.749256558e-06,
+    6.113243578e-07,
+    -5.89910153e-08,
+    5.2070091e-09,
+    -4.232976e-10,
+    3.18811e-11,
+    -2.2361e-12,
+    1.467e-13,
+    -9e-15,
     5e-16,
 };
 
 // Chebyshev coefficients of |x| e^(x^2) erfc(|x|) sqrt(pi) in
 // s = 2 - 20/(|x| + 3) for 2 < |x| < 6.25, a_0 first.
 inline constexpr double kErfLarge[] = {
-    1.9449071068178803, 0.0420186582324414, -0.0186866103976769, 0.0051281061839107,
-    -0.0010683107461726, 0.0001744737872522, -2.15642065714e-05, 1.7282657974e-06,
-    -2.00479241e-08,     -1.64782105e-08,    2.0008475e-09,      2.57716e-11,
-    -3.06343e-11,        1.9158e-12,         3.703e-13,          -5.43e-14,
-    -4e-15,              1.2e-15,
+    1.9449071068178803,
+    0.0420186582324414,
+    -0.0186866103976769,
+    0.0051281061839107,
+    -0.0010683107461726,
+    0.0001744737872522,
+    -2.15642065714e-05,
+    1.7282657974e-06,
+    -2.00479241e-08,
+    -1.64782105e-08,
+    2.0008475e-09,
+    2.57716e-11,
+    -3.06343e-11,
+    1.9158e-12,
+    3.703e-13,
+    -5.43e-14,
+    -4e-15,
+    1.2e-15,
 };
 
-inline constexpr double kErfcZeroFrom = 26.6;     // x >= this: erfc(x) = 0
-inline constexpr double kErfcTwoUpTo = -6.25;     // x <= this: erfc(x) = 2
-inline constexpr double kErfOneFrom = 6.25;       // |x| >= this: erf(x) = +-1
-inline constexpr double kErfSmallUpTo = 2.0;      // |x| <= this: small series
+inline constexpr double kErfcZeroFrom = 26.6;  // x >= this: erfc(x) = 0
+inline constexpr double kErfcTwoUpTo = -6.25;  // x <= this: erfc(x) = 2
+inline constexpr double kErfOneFrom = 6.25;    // |x| >= this: erf(x) = +-1
+inline constexpr double kErfSmallUpTo = 2.0;   // |x| <= this: small series
 inline constexpr double kOneOverSqrtPi = 0.5641895835477563;
 
 // Clenshaw's recurrence in the doubled-argument form, s in [-2, 2]:
@@ -133,8 +156,8 @@ inline double erf_value(double x) {
 // Batch forms used by the normal-distribution routines, for i < n:
 //   erfc_scaled: out[i] = s15adc(v * multiplier) * factor, v = x[i] or |x[i]|
 //   erf_scaled:  out[i] = s15aec(|x[i]| * multiplier)
-void erfc_scaled(kernels::LaneSet lanes, int n, const double *x, double multiplier,
-                 bool absolute, double factor, double *out);
+void erfc_scaled(kernels::LaneSet lanes, int n, const double *x, double multiplier, bool absolute,
+                 double factor, double *out);
 void erf_scaled(kernels::LaneSet lanes, int n, const double *x, double multiplier, double *out);
 
 }  // namespace kiv::special

@@ -22,23 +22,22 @@ inline Lanes4 scaled_argument(Lanes4 x, double multiplier, bool take_absolute) {
     return (take_absolute ? kernels::absolute(x) : x) * multiplier;
 }
 
-void erfc_scaled_lanes(int n, const double *x, double multiplier, bool take_absolute,
-                       double factor, double *out) {
+void erfc_scaled_lanes(int n, const double *x, double multiplier, bool take_absolute, double factor,
+                       double *out) {
     kernels::apply_lanes(n, x, out, 0.0, [=](Lanes4 v) {
         return erfc_all(scaled_argument(v, multiplier, take_absolute)) * factor;
     });
 }
 
 void erf_scaled_lanes(int n, const double *x, double multiplier, double *out) {
-    kernels::apply_lanes(n, x, out, 0.0, [=](Lanes4 v) {
-        return erf_all(scaled_argument(v, multiplier, true));
-    });
+    kernels::apply_lanes(n, x, out, 0.0,
+                         [=](Lanes4 v) { return erf_all(scaled_argument(v, multiplier, true)); });
 }
 #endif
 
 #if defined(KIV_HAVE_AVX2_LANES)
-KIV_AVX2_DRIVER void erfc_scaled_avx2(int n, const double *x, double multiplier,
-                                      bool take_absolute, double factor, double *out) {
+KIV_AVX2_DRIVER void erfc_scaled_avx2(int n, const double *x, double multiplier, bool take_absolute,
+                                      double factor, double *out) {
     erfc_scaled_lanes(n, x, multiplier, take_absolute, factor, out);
 }
 

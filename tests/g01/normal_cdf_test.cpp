@@ -24,8 +24,7 @@ namespace {
 using kiv::oracle::Real;
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr Kiv_Tail kTails[] = {Kiv_LowerTail, Kiv_UpperTail, Kiv_TwoTailSignif,
-                               Kiv_TwoTailConfid};
+constexpr Kiv_Tail kTails[] = {Kiv_LowerTail, Kiv_UpperTail, Kiv_TwoTailSignif, Kiv_TwoTailConfid};
 
 TEST(NormalTailProbability, EachTailAgainstMpfr) {
     // One reference Phi(-|x|) per point serves every tail.
@@ -38,13 +37,12 @@ TEST(NormalTailProbability, EachTailAgainstMpfr) {
             const bool small_side = (kTails[t] == Kiv_LowerTail) == (x < 0);
             if (kTails[t] == Kiv_TwoTailSignif || kTails[t] == Kiv_TwoTailConfid)
                 mpfr_mul_2ui(reference.get(), reference.get(), 1, MPFR_RNDN);
-            if (kTails[t] == Kiv_TwoTailConfid ||
-                (!small_side && kTails[t] != Kiv_TwoTailSignif))
+            if (kTails[t] == Kiv_TwoTailConfid || (!small_side && kTails[t] != Kiv_TwoTailSignif))
                 mpfr_ui_sub(reference.get(), 1, reference.get(), MPFR_RNDN);
             if (mpfr_zero_p(reference.get()) || mpfr_get_d(reference.get(), MPFR_RNDN) < 1e-300)
                 continue;
-            worst[t].update(
-                kiv::oracle::relative_error(g01eac(kTails[t], x, nullptr), reference), x);
+            worst[t].update(kiv::oracle::relative_error(g01eac(kTails[t], x, nullptr), reference),
+                            x);
         }
     }
     // The rounding of x/sqrt 2 costs up to x^2 2^-53 relatively in the far
@@ -63,13 +61,19 @@ TEST(NormalTailProbability, ExactValues) {
         double x;
         double expected;
     } const cases[] = {
-        {Kiv_LowerTail, 0.0, 0.5},      {Kiv_UpperTail, 0.0, 0.5},
-        {Kiv_TwoTailConfid, 0.0, 0.0},  {Kiv_TwoTailSignif, 0.0, 1.0},
-        {Kiv_LowerTail, -kInf, 0.0},    {Kiv_LowerTail, kInf, 1.0},
-        {Kiv_UpperTail, kInf, 0.0},     {Kiv_TwoTailSignif, -kInf, 0.0},
-        {Kiv_TwoTailConfid, kInf, 1.0}, {Kiv_TwoTailConfid, -kInf, 1.0},
+        {Kiv_LowerTail, 0.0, 0.5},
+        {Kiv_UpperTail, 0.0, 0.5},
+        {Kiv_TwoTailConfid, 0.0, 0.0},
+        {Kiv_TwoTailSignif, 0.0, 1.0},
+        {Kiv_LowerTail, -kInf, 0.0},
+        {Kiv_LowerTail, kInf, 1.0},
+        {Kiv_UpperTail, kInf, 0.0},
+        {Kiv_TwoTailSignif, -kInf, 0.0},
+        {Kiv_TwoTailConfid, kInf, 1.0},
+        {Kiv_TwoTailConfid, -kInf, 1.0},
         // NaN goes to the error functions: erfc(NaN) = 2.
-        {Kiv_LowerTail, kNaN, 1.0},     {Kiv_UpperTail, kNaN, 1.0},
+        {Kiv_LowerTail, kNaN, 1.0},
+        {Kiv_UpperTail, kNaN, 1.0},
         {Kiv_TwoTailSignif, kNaN, 2.0},
     };
     for (const Case &c : cases) {

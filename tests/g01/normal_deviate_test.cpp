@@ -22,8 +22,7 @@ using kiv::oracle::Real;
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kBelowOne = 0x1.fffffffffffffp-1;
-constexpr Kiv_Tail kTails[] = {Kiv_LowerTail, Kiv_UpperTail, Kiv_TwoTailSignif,
-                               Kiv_TwoTailConfid};
+constexpr Kiv_Tail kTails[] = {Kiv_LowerTail, Kiv_UpperTail, Kiv_TwoTailSignif, Kiv_TwoTailConfid};
 
 // Worst relative error of Phi(g01cec(p)) against p over `points`.
 kiv::oracle::Worst round_trip_error(const std::vector<double> &points) {
@@ -153,8 +152,8 @@ TEST(NormalDeviate, RelationsBetweenTails) {
 }
 
 TEST(NormalDeviate, BatchMatchesScalarBitForBit) {
-    std::vector<double> p = {0.5,  0.8,        0.08, 0.3,  0.2,    1e-300, 0x1.0p-1074,
-                             1e-6, kBelowOne,  0.92, 0.7,  0.0,    1.0,    kNaN};
+    std::vector<double> p = {0.5,  0.8,       0.08, 0.3, 0.2, 1e-300, 0x1.0p-1074,
+                             1e-6, kBelowOne, 0.92, 0.7, 0.0, 1.0,    kNaN};
     std::mt19937_64 engine(9);
     std::uniform_real_distribution<double> uniform(0.0, 1.0), exponent(-300.0, 0.0);
     for (int i = 0; i < 40000; ++i)

@@ -1,5 +1,7 @@
 // The exponential and logarithm kernels against MPFR: error in ulps over
 // dense grids, special values, and the agreement of lanes with scalars.
+#include "kernels/exp_log.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,7 +9,6 @@
 #include <limits>
 #include <random>
 
-#include "kernels/exp_log.hpp"
 #include "kernels/exp_log_oracle.hpp"
 
 namespace {

@@ -1,6 +1,8 @@
 // Error function and normal integrals: accuracy against MPFR, values known
 // to full precision, the saturation thresholds and NaN, identities, and the
 // batch forms' agreement with the scalar routines.
+#include "s/erf.hpp"
+
 #include <gtest/gtest.h>
 
 #include <bit>
@@ -13,7 +15,6 @@
 
 #include "kernels/exp_log_oracle.hpp"
 #include "kiv.h"
-#include "s/erf.hpp"
 
 namespace {
 
@@ -21,9 +22,15 @@ using kiv::oracle::Real;
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-void exact_erfc(Real &r, double x) { mpfr_erfc(r.get(), Real(x).get(), MPFR_RNDN); }
-void exact_erf(Real &r, double x) { mpfr_erf(r.get(), Real(x).get(), MPFR_RNDN); }
-void exact_upper_tail(Real &r, double x) { kiv::oracle::normal_lower_tail(r, -x); }
+void exact_erfc(Real &r, double x) {
+    mpfr_erfc(r.get(), Real(x).get(), MPFR_RNDN);
+}
+void exact_erf(Real &r, double x) {
+    mpfr_erf(r.get(), Real(x).get(), MPFR_RNDN);
+}
+void exact_upper_tail(Real &r, double x) {
+    kiv::oracle::normal_lower_tail(r, -x);
+}
 
 TEST(ErrorFunctions, RelativeErrorAgainstMpfr) {
     struct Case {
@@ -117,7 +124,7 @@ TEST(ErrorFunctions, Identities) {
 
 // Inputs covering every region and threshold, both signs, and non-finite values.
 std::vector<double> batch_inputs() {
-    std::vector<double> x = {0.0,  -0.0, 1.0,   -1.0,  2.0,  -2.0,  6.25, -6.25, 26.5, 26.6,
+    std::vector<double> x = {0.0,  -0.0, 1.0,   -1.0, 2.0,   -2.0, 6.25,   -6.25,  26.5, 26.6,
                              -6.2, 37.6, -8.84, kInf, -kInf, kNaN, 1e-300, 5e-324, 3.75};
     std::mt19937_64 engine(3);
     std::uniform_real_distribution<double> uniform(-40.0, 40.0);
