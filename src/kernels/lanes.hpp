@@ -1,0 +1,198 @@
+// Lane arithmetic: one source for a numerical kernel, evaluated either on a
+// single double or on four doubles at once, with identical IEEE operations
+// in identical order on every lane.
+//
+// A kernel is written once as a template over its number type V, using only
+// + - * / on V, comparisons, select(mask, a, b) and the bit helpers below.
+// Instantiated with V = double it is the scalar routine; instantiated with
+// V = Lanes4 (a GCC/Clang vector of four doubles) it is the batch form. Each
+// lane then performs exactly the operations of the scalar evaluation, all of
+// them correctly rounded (add, subtract, multiply, divide, square root), so
+// the results agree bit for bit. Operations that only move bits (building
+// 2^k, taking an exponent apart) are exact, so they may differ in how they
+// are done between the two forms.
+//
+// Lanes4 is a generic vector: in an ordinary function the compiler lowers it
+// to pairs of SSE2 operations (the x86-64 baseline); inside a function
+// compiled with __attribute__((target("avx2"))) it becomes one AVX register.
+// The AVX2 target enables no fused multiply-add (that is the separate "fma"
+// target), so no product can be contracted into an addition: a contracted
+// a*b + c is rounded once instead of twice and would break the agreement
+// with the scalar form. The library is compiled without -march, so the same
+// holds for the scalar code; a build that enables FMA must also pass
+// -ffp-contract=off.
+//
+// On 32-bit x86 the scalar code must use SSE2 arithmetic (-msse2
+// -mfpmath=sse), not the x87 unit, whose extended precision would change
+// results.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace kiv::kernels {
+
+#if defined(__GNUC__)
+#define KIV_HAVE_LANES 1
+// GCC notes that a 32-byte vector passed by value without AVX uses another
+// calling convention than with AVX. No such call crosses between the two:
+// the AVX2 drivers have every helper inlined into them (flatten), and the
+// baseline code calls only baseline code.
+#pragma GCC diagnostic ignored "-Wpsabi"
+
+// Four doubles and the matching 64-bit integer lanes (masks, bit patterns).
+typedef double Lanes4 __attribute__((vector_size(32)));
+typedef std::int64_t Mask4 __attribute__((vector_size(32)));
+#endif
+
+// ---- single value -----------------------------------------------------------
+
+inline double select(bool mask, double if_true, double if_false) {
+    return mask ? if_true : if_false;
+}
+
+inline std::int64_t to_bits(double x) {
+    return std::bit_cast<std::int64_t>(x);
+}
+inline double from_bits(std::int64_t bits) {
+    return std::bit_cast<double>(bits);
+}
+inline double absolute(double x) {
+    return from_bits(to_bits(x) & INT64_MAX);
+}
+inline double square_root(double x) {
+    return __builtin_sqrt(x);
+}
+inline bool any(bool mask) {
+    return mask;
+}
+inline bool complement(bool mask) {
+    return !mask;
+}
+inline double broadcast(double x, double) {
+    return x;
+}
+
+// ---- four lanes -------------------------------------------------------------
+
+#if defined(KIV_HAVE_LANES)
+inline Lanes4 select(Mask4 mask, Lanes4 if_true, Lanes4 if_false) {
+    return mask ? if_true : if_false;
+}
+
+inline Mask4 to_bits(Lanes4 x) {
+    return (Mask4)x;
+}
+inline Lanes4 from_bits(Mask4 bits) {
+    return (Lanes4)bits;
+}
+inline Lanes4 absolute(Lanes4 x) {
+    return from_bits(to_bits(x) & INT64_MAX);
+}
+inline Lanes4 square_root(Lanes4 x) {
+    Lanes4 root;
+    for (int i = 0; i < 4; ++i) root[i] = __builtin_sqrt(x[i]);
+    return root;
+}
+inline Lanes4 select(Mask4 mask, double if_true, Lanes4 if_false) {
+    return mask ? Lanes4{if_true, if_true, if_true, if_true} : if_false;
+}
+inline Lanes4 select(Mask4 mask, Lanes4 if_true, double if_false) {
+    return mask ? if_true : Lanes4{if_false, if_false, if_false, if_false};
+}
+inline Mask4 complement(Mask4 mask) {
+    return ~mask;
+}
+inline bool any(Mask4 mask) {
+    return (mask[0] | mask[1] | mask[2] | mask[3]) != 0;
+}
+inline Lanes4 broadcast(double x, Lanes4) {
+    return Lanes4{x, x, x, x};
+}
+
+// Loads `count` (1 to 4) values, filling the remaining lanes with `fill`.
+inline Lanes4 load_partial(const double *source, int count, double fill) {
+    Lanes4 v = {fill, fill, fill, fill};
+    for (int i = 0; i < count; ++i) v[i] = source[i];
+    return v;
+}
+inline void store_partial(double *target, int count, Lanes4 v) {
+    for (int i = 0; i < count; ++i) target[i] = v[i];
+}
+inline Lanes4 load(const double *source) {
+    Lanes4 v;
+    std::memcpy(&v, source, sizeof v);
+    return v;
+}
+inline void store(double *target, Lanes4 v) {
+    std::memcpy(target, &v, sizeof v);
+}
+
+// out[i] = kernel(in[i]) for i < n, four at a time; the lanes beyond n in
+// the last group hold `fill`, a value inside the kernel's domain.
+template <class Kernel>
+inline void apply_lanes(int n, const double *in, double *out, double fill, Kernel kernel) {
+    int i = 0;
+    for (; i + 4 <= n; i += 4) store(out + i, kernel(load(in + i)));
+    if (i < n) store_partial(out + i, n - i, kernel(load_partial(in + i, n - i, fill)));
+}
+#endif
+
+// The instruction sets a batch routine can run on: SSE2 (the x86-64
+// baseline, or plain scalar code elsewhere), and AVX2 where the processor
+// and the operating system support it. 32-bit Windows is left on the
+// baseline: its stack is not kept 32-byte aligned for spilled AVX registers.
+enum class LaneSet { baseline, avx2 };
+
+#if defined(KIV_HAVE_LANES) && (defined(__x86_64__) || defined(__i386__)) && \
+    !(defined(_WIN32) && !defined(_WIN64))
+#define KIV_HAVE_AVX2_LANES 1
+// A batch driver compiled for AVX2 with every kernel inlined into it.
+#define KIV_AVX2_DRIVER __attribute__((target("avx2"), flatten))
+#endif
+
+inline LaneSet best_lane_set() {
+#if defined(KIV_HAVE_AVX2_LANES)
+    return __builtin_cpu_supports("avx2") ? LaneSet::avx2 : LaneSet::baseline;
+#else
+    return LaneSet::baseline;
+#endif
+}
+
+// Horner's rule for c[0] + c[1] x + ... + c[N-1] x^(N-1), a table listed
+// from the constant term up, evaluated from the highest power down:
+// ((c[N-1] x + c[N-2]) x + ...) x + c[0].
+template <class V, std::size_t N>
+inline V polynomial(V x, const double (&c)[N]) {
+    V sum = broadcast(c[N - 1], x);
+    for (std::size_t i = N - 1; i-- > 0;) sum = sum * x + c[i];
+    return sum;
+}
+
+// 2^k from s = k + 0x1.8p52 (the sum that rounded k to an integer): the low
+// bits of s hold k in two's complement. Exact for -1022 <= k <= 1023.
+template <class V>
+inline V power_of_two_from_shifted(V shifted) {
+    constexpr std::int64_t kShiftBits = 0x4338000000000000;  // bits of 0x1.8p52
+    return from_bits((to_bits(shifted) - kShiftBits + 1023) << 52);
+}
+
+// For positive finite normal x = 2^e * m with m in [1, 2): the mantissa m
+// and the exponent e as a double. Both exact.
+template <class V>
+inline V mantissa_of(V x) {
+    constexpr std::int64_t kFractionBits = 0x000FFFFFFFFFFFFF;
+    constexpr std::int64_t kOneBits = 0x3FF0000000000000;
+    return from_bits((to_bits(x) & kFractionBits) | kOneBits);
+}
+template <class V>
+inline V exponent_of(V x) {
+    // 2^52 + e' (e' the biased exponent) is exact; subtracting 2^52 + 1023
+    // leaves e.
+    constexpr std::int64_t kTwo52Bits = 0x4330000000000000;
+    return from_bits((to_bits(x) >> 52) | kTwo52Bits) - 0x1.00000000003FFp52;
+}
+
+}  // namespace kiv::kernels
