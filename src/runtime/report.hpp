@@ -5,13 +5,22 @@
 // report_template() or report_text(); and on success report_success().
 #pragma once
 
+#include <atomic>
+
 #include "kiv.h"
 
 namespace kiv::rt {
 
+namespace detail {
+// Set only by the test hook (testing.hpp); read on every call, so a plain
+// process-wide flag rather than a thread-local (which costs a call into the
+// dynamic loader per access in a shared library).
+extern std::atomic<bool> refuse_calls;
+}  // namespace detail
+
 // The licence check that every top-level routine runs first. This library
 // admits every call; tests can make it refuse (see testing.hpp).
-bool licence_check();
+inline bool licence_check() { return !detail::refuse_calls.load(std::memory_order_relaxed); }
 
 inline void clear_code(KivError *fail) {
     if (fail != nullptr) fail->code = 0;

@@ -4,7 +4,7 @@
 
 namespace kiv::rt::testing {
 
-// Makes the licence check refuse (true) or admit (false) on this thread.
+// Makes the licence check refuse (true) or admit (false), process-wide.
 void set_licence_refusal(bool refuse);
 
 // After `successes` more successful allocations on this thread, every
