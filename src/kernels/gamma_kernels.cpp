@@ -14,12 +14,16 @@
 //   Gamma(x), x > 0: (0, 1/2) exp(ln Gamma(1 + x)) / x; [1/2, 5/2) exp of the
 //     series above (absolute error of the exponent below 1e-17); [5/2, 10) the
 //     recurrence Gamma(x) = (x - 1)(x - 2)...(r) Gamma(r), r in [3/2, 5/2), whose
-//     factors x - k are exact; [10, 171.62) Stirling's formula
-//     sqrt(2 pi) y (y e^-x) exp(ln Gamma*(x)) with y = x^(x/2 - 1/4), the exponent
-//     exact, so only correctly rounded pow and exp enter.
+//     factors x - k are exact, multiplied in long double; [10, 171.62)
+//     exp((x - 1/2) ln x - x + ln sqrt(2 pi) + ln Gamma*(x)) evaluated in long
+//     double (64-bit significand on x86), so the exponent's rounding error,
+//     amplified by its size up to 709, stays below 2^-53 of the result.
+//   sin(pi x): reduced exactly to |r| <= 1/4 about a multiple of 1/2, then sin
+//     or cos in long double.
 //   ln Gamma(x), x > 0: (0, 1/2) ln Gamma(1 + x) - ln x; [1/2, 5/2) the series;
-//     [5/2, 10) the recurrence as a logarithm of the product; [10, inf)
-//     (x - 1/2) ln x - x (one fused multiply-add) + ln sqrt(2 pi) + ln Gamma*(x).
+//     [5/2, 10) the recurrence as a logarithm of the product; [10, 1e17)
+//     (x - 1/2) ln x - x + ln sqrt(2 pi) + ln Gamma*(x) in long double; beyond,
+//     x (ln x - 1) - ln(x)/2 + ln sqrt(2 pi) in double.
 //
 // References: M. Abramowitz, I. A. Stegun, Handbook of Mathematical Functions,
 // NBS Applied Mathematics Series 55 (1964), 6.1.33, 6.1.40, 6.1.41.
@@ -83,24 +87,23 @@ double stirling_correction(double a) {
     return sum * inverse;
 }
 
-double sin_pi(double x) {
-    // x = 2m + sign * (r), reduced exactly: fmod is exact, and so are the
-    // differences below by Sterbenz's lemma.
+long double sin_pi(double x) {
+    // x = 2m + r with the sign folded in, reduced exactly: fmod is exact, and
+    // so are the differences below by Sterbenz's lemma.
     double r = std::fmod(std::fabs(x), 2.0);
-    double sign = x < 0.0 ? -1.0 : 1.0;
+    long double sign = x < 0.0 ? -1.0L : 1.0L;
     if (r >= 1.0) {
         r -= 1.0;
         sign = -sign;
     }
     if (r > 0.5) r = 1.0 - r;
-    if (r == 0.0) return 0.0 * sign;
-    if (r <= 0.25) return sign * std::sin(kPi * r);
-    return sign * std::cos(kPi * (0.5 - r));
+    if (r <= 0.25) return sign * std::sin(kPiLong * r);
+    return sign * std::cos(kPiLong * (0.5 - r));
 }
 
-void gamma_stirling_factors(double x, double &first, double &second) {
-    first = std::pow(x, 0.5 * x - 0.25);
-    second = first * std::exp(-x) * (kSqrtTwoPi * std::exp(stirling_correction(x)));
+long double log_gamma_stirling(double x) {
+    return (x - 0.5L) * std::log(static_cast<long double>(x)) - x + kHalfLogTwoPiLong +
+           stirling_correction(x);
 }
 
 double gamma_positive(double x) {
@@ -109,15 +112,12 @@ double gamma_positive(double x) {
     if (x < 2.5) return std::exp(log_gamma_2p(x - 2.0));
     if (x < 10.0) {
         const double steps = std::floor(x - 1.5);
-        double product = 1.0;
+        long double product = 1.0L;
         for (double k = 1.0; k <= steps; k += 1.0) product *= x - k;
-        return product * std::exp(log_gamma_2p(x - steps - 2.0));
+        return static_cast<double>(product * std::exp(log_gamma_2p(x - steps - 2.0)));
     }
     if (x > 171.625) return HUGE_VAL;
-    double first = 0.0;
-    double second = 0.0;
-    gamma_stirling_factors(x, first, second);
-    return first * second;
+    return static_cast<double>(std::exp(log_gamma_stirling(x)));
 }
 
 double log_gamma_positive(double x) {
@@ -130,9 +130,11 @@ double log_gamma_positive(double x) {
         for (double k = 1.0; k <= steps; k += 1.0) product *= x - k;
         return std::log(product) + log_gamma_2p(x - steps - 2.0);
     }
-    const double log_x = std::log(x);
-    if (x > 1e17) return x * (log_x - 1.0) - 0.5 * log_x + kHalfLogTwoPi;
-    return std::fma(x - 0.5, log_x, -x) + (kHalfLogTwoPi + stirling_correction(x));
+    if (x > 1e17) {
+        const double log_x = std::log(x);
+        return x * (log_x - 1.0) - 0.5 * log_x + kHalfLogTwoPi;
+    }
+    return static_cast<double>(log_gamma_stirling(x));
 }
 
 }  // namespace kiv::kernels

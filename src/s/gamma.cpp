@@ -15,9 +15,9 @@
 // Method: positive x through the kernels of kernels/gamma_kernels.cpp (series
 // about 1 and 2, the recurrence, Stirling's formula). Negative non-integers by
 // the reflection formula Gamma(x) Gamma(-x) = -pi / (x sin(pi x)) with
-// sin(pi x) after an exact reduction, and -x exact; for |x| < 1/2 directly
-// Gamma(x) = Gamma(1 + x) / x. Where Gamma(-x) overflows, the reflection
-// divides by its two Stirling factors one after the other.
+// sin(pi x) after an exact reduction, and -x exact, evaluated in long double
+// (so that Gamma(-x) does not overflow before the division); for |x| < 1/2
+// directly Gamma(x) = Gamma(1 + x) / x.
 //
 // Measured accuracy against MPFR (tests/s/gamma_test.cpp, docs/gamma.md).
 #include <cmath>
@@ -29,7 +29,6 @@
 namespace {
 
 using kiv::kernels::gamma_positive;
-using kiv::kernels::kPi;
 using kiv::kernels::log_gamma_positive;
 using kiv::kernels::sin_pi;
 
@@ -56,15 +55,13 @@ bool report_argument_fault(double x, const char *routine, KivError *fail, double
     return false;
 }
 
-// Gamma(x) for a negative non-integer x <= -1/2.
+// Gamma(x) for a negative non-integer x <= -1/2: the reflection formula in
+// long double, where Gamma(-x) neither overflows nor loses its last bits.
 double gamma_reflected(double x) {
-    const double reflection = -kPi / (x * sin_pi(x));
+    const long double reflection = -kiv::kernels::kPiLong / (x * sin_pi(x));
     const double opposite = -x;
-    if (opposite < 171.0) return reflection / gamma_positive(opposite);
-    double first = 0.0;
-    double second = 0.0;
-    kiv::kernels::gamma_stirling_factors(opposite, first, second);
-    return reflection / first / second;
+    if (opposite < 10.0) return static_cast<double>(reflection / gamma_positive(opposite));
+    return static_cast<double>(reflection / std::exp(kiv::kernels::log_gamma_stirling(opposite)));
 }
 
 }  // namespace
@@ -115,7 +112,8 @@ KIV_API double s14abc(double x, KivError *fail) {
         result = kiv::kernels::log_gamma_1p(x) - std::log(-x);
     } else {
         // ln |Gamma(x)| = ln(pi / |x sin(pi x)|) - ln Gamma(-x).
-        result = std::log(kPi / std::fabs(x * sin_pi(x))) - log_gamma_positive(-x);
+        result = static_cast<double>(std::log(kiv::kernels::kPiLong / std::fabs(x * sin_pi(x))) -
+                                     log_gamma_positive(-x));
     }
 
     if (std::isinf(result)) {
