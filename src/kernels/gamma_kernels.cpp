@@ -131,6 +131,7 @@ double log_gamma_positive(double x) {
         return std::log(product) + log_gamma_2p(x - steps - 2.0);
     }
     if (x > 1e17) {
+        if (std::isinf(x)) return x;
         const double log_x = std::log(x);
         return x * (log_x - 1.0) - 0.5 * log_x + kHalfLogTwoPi;
     }

@@ -149,7 +149,8 @@ Tails power_series(double a, double x, double epsilon) {
     for (; n <= kIterationLimit; ++n) {
         term *= x / (a + n);
         sum += term;
-        if (term <= epsilon * sum) break;
+        // The rest is below term r / (1 - r), r = x / (a + n + 1) < 1.
+        if (term * x <= epsilon * sum * (a + n + 1 - x)) break;
     }
     result.converged = n <= kIterationLimit;
     result.p = prefactor * sum;
@@ -162,6 +163,9 @@ Tails continued_fraction(double a, double x, double epsilon) {
     Tails result{1.0, 0.0, true};
     const double prefactor = a * series_prefactor(a, x);
     if (prefactor == 0.0) return result;
+    // Successive convergents may differ by less than the remaining error;
+    // a looser request is therefore tightened sixteenfold.
+    const double step_tolerance = std::max(epsilon / 16.0, 0x1p-53);
     double numerator_old = 1.0;
     double numerator = x + 1.0 - a;
     double denominator_old = 0.0;
@@ -184,7 +188,7 @@ Tails continued_fraction(double a, double x, double epsilon) {
             denominator_old *= 0x1p-500;
         }
         const double next = numerator / denominator;
-        const bool done = std::fabs(next - value) <= epsilon * std::fabs(next);
+        const bool done = std::fabs(next - value) <= step_tolerance * std::fabs(next);
         value = next;
         if (done) break;
     }
@@ -269,7 +273,10 @@ Tails incomplete_gamma(double a, double x, double epsilon) {
         return result;
     }
     const bool series = a < kTemmeMinimumA ? x < a + 1.0 : x < a;
-    return series ? power_series(a, x, epsilon) : continued_fraction(a, x, epsilon);
+    if (!series) return continued_fraction(a, x, epsilon);
+    // Near and past x = a the series may give the larger tail, whose complement Q (above
+    // about 0.1 here) needs a proportionally smaller absolute error.
+    return power_series(a, x, x > 0.7 * a ? std::max(epsilon / 16.0, 0x1p-53) : epsilon);
 }
 
 }  // namespace
