@@ -47,7 +47,7 @@ double zeta_tail(double z) {
     using gamma_tables::kZetaSeries;
     constexpr int count = sizeof kZetaSeries / sizeof kZetaSeries[0];
     double sum = kZetaSeries[count - 1];
-    for (int k = count - 2; k >= 0; --k) sum = std::fma(sum, z, kZetaSeries[k]);
+    for (int k = count - 2; k >= 0; --k) sum = sum * z + kZetaSeries[k];
     return sum * z * z;
 }
 
@@ -70,11 +70,11 @@ double log1pmx(double z) {
 }
 
 double log_gamma_2p(double z) {
-    return std::fma(1.0 - kEulerGamma, z, zeta_tail(z));
+    return (1.0 - kEulerGamma) * z + zeta_tail(z);
 }
 
 double log_gamma_1p(double z) {
-    return std::fma(-kEulerGamma, z, zeta_tail(z)) - log1pmx(z);
+    return (-kEulerGamma * z + zeta_tail(z)) - log1pmx(z);
 }
 
 double stirling_correction(double a) {
@@ -83,7 +83,7 @@ double stirling_correction(double a) {
     if (a > 1e8) return kStirling[0] * inverse;
     const double inverse2 = inverse * inverse;
     double sum = kStirling[9];
-    for (int k = 8; k >= 0; --k) sum = std::fma(sum, inverse2, kStirling[k]);
+    for (int k = 8; k >= 0; --k) sum = sum * inverse2 + kStirling[k];
     return sum * inverse;
 }
 
