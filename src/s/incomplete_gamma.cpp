@@ -28,7 +28,7 @@
 //   The factor x^a e^-x / Gamma(a + 1): for a < 10 from pow and exp when neither
 //   over- nor underflows; for a >= 10 in Temme's form
 //   e^(-a phi - ln Gamma*(a)) / sqrt(2 pi a), phi = x/a - 1 - ln(x/a) computed
-//   without cancellation. When the exponent exceeds 100 (a result below 4e-44)
+//   without cancellation. When the exponent exceeds 25 (a result below 1e-11)
 //   it is formed in long double and exponentiated as exp(hi) (1 + lo), so the
 //   relative error does not grow with the exponent's size.
 //   Series and continued fraction stop when a term falls below tol times the
@@ -62,7 +62,7 @@ using namespace kiv::kernels;
 constexpr int kIterationLimit = 600;
 constexpr double kTemmeMinimumA = 20.0;
 constexpr double kTemmeBand = 0.4;
-constexpr double kLongExponent = 100.0;  // exponents beyond this go through long double
+constexpr double kLongExponent = 25.0;  // exponents beyond this go through long double
 constexpr double kUnderflowExponent = 746.0;
 
 struct Tails {
