@@ -12,7 +12,7 @@ int main(void) {
     KivError fail = {0};
 
     printf("P(X <= 1.96)      = %.12f\n", g01eac(Kiv_LowerTail, 1.96, &fail));
-    printf("x with P = 0.975  = %.11f\n", g01fac(Kiv_LowerTail, 0.975, &fail));
+    printf("x with P = 0.975  = %.8f\n", g01fac(Kiv_LowerTail, 0.975, &fail));
     /* 3.841458820694124 is the 95% point of chi-square with 1 degree of
        freedom; g01ecc works to a relative accuracy of 5e-6. */
     printf("Q(chi2 = 3.8415)  = %.5f\n", g01ecc(Kiv_UpperTail, 3.841458820694124, 1.0, &fail));

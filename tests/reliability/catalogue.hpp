@@ -27,9 +27,13 @@ struct Scratch {
         iout.fill(kIntSentinel);
         result = kSentinel;
     }
-    bool untouched() const {
+    // No output written; with `zero_results`, slots holding 0.0 count as
+    // untouched too (a refused scalar routine returns 0.0, which the
+    // catalogue stores like an output).
+    bool untouched(bool zero_results = false) const {
         for (double v : out)
-            if (std::bit_cast<std::uint64_t>(v) != std::bit_cast<std::uint64_t>(kSentinel))
+            if (std::bit_cast<std::uint64_t>(v) != std::bit_cast<std::uint64_t>(kSentinel) &&
+                !(zero_results && std::bit_cast<std::uint64_t>(v) == 0))
                 return false;
         for (int v : iout)
             if (v != kIntSentinel) return false;
