@@ -24,22 +24,20 @@ struct Reference {
 
 Reference reference(const std::vector<double> &a, const std::vector<double> &b) {
     const std::size_t n = a.size();
+    // Average ranks from 0. A value tied t times contributes, per member,
+    // t - 1 to twice the tied pairs and (t + 1)(t - 1) / 2 to Q's correction.
     auto ranks = [n](const std::vector<double> &v, long long &p, long double &q) {
         std::vector<long double> r(n);
-        p = static_cast<long long>(n * (n - 1) / 2);
+        long long tied_twice = 0;
         q = static_cast<long double>(n + 1) * n * (n - 1) / 2;
-        std::vector<bool> done(n, false);
         for (std::size_t i = 0; i < n; ++i) {
             long long less = 0, equal = 0;
             for (std::size_t j = 0; j < n; ++j) less += v[j] < v[i], equal += v[j] == v[i];
             r[i] = less + (equal - 1) / 2.0L;
-            if (!done[i]) {
-                for (std::size_t j = 0; j < n; ++j)
-                    if (v[j] == v[i]) done[j] = true;
-                p -= equal * (equal - 1) / 2;
-                q -= static_cast<long double>(equal + 1) * equal * (equal - 1) / 2;
-            }
+            tied_twice += equal - 1;
+            q -= static_cast<long double>(equal + 1) * (equal - 1) / 2;
         }
+        p = static_cast<long long>(n * (n - 1) / 2) - tied_twice / 2;
         return r;
     };
     long long pa, pb;
