@@ -1,7 +1,8 @@
 // g02byc: partial correlations against the inverse of the correlation
 // matrix in 50-digit arithmetic (p_ab.x = -W_ab / sqrt(W_aa W_bb), W the
 // inverse of the block of a, b and the x variables), the one-variable
-// textbook formula, rank and positive-definiteness failures, error paths.
+// textbook formula. Argument checks and the rank and positive-definiteness
+// failures are in tests/reliability.
 #include <gtest/gtest.h>
 
 #include <boost/multiprecision/cpp_bin_float.hpp>
@@ -11,7 +12,6 @@
 
 #include "g02_test_support.hpp"
 #include "kiv.h"
-#include "runtime/testing.hpp"
 
 namespace {
 
@@ -81,62 +81,6 @@ TEST(G02byc, MatchesInverseOfCorrelationMatrix) {
     double p[4];
     g02byc(3, 2, 1, isz3, r3, 3, p, 2, &fail);
     EXPECT_NEAR(p[1], (0.5 - 0.12) / std::sqrt((1 - 0.09) * (1 - 0.16)), 1e-15);
-}
-
-namespace errors {
-const int isz4[4] = {-1, -1, 1, 1}, isz3[3] = {-1, -1, 1};
-const int too_many_y[4] = {-1, -1, -1, 1}, too_few_x[4] = {-1, -1, 0, 1};
-const double r[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-double p[4];
-}  // namespace errors
-
-TEST(G02byc, FailuresAndErrorPaths) {
-    using namespace errors;
-    const double singular[16] = {1,   0.2, 0.3, 0.3, 0.2, 1,   0.1, 0.1,
-                                 0.3, 0.1, 1,   1,   0.3, 0.1, 1,   1};  // x block rank 1
-    const double indefinite[9] = {1, -0.9, 0.9, -0.9, 1, 0.9, 0.9, 0.9, 1};
-    auto call = [](int m, int ny, int nx, const int *isz, int tdr, int tdp,
-                   const double *matrix = errors::r) {
-        return [=](KivError *fail) { g02byc(m, ny, nx, isz, matrix, tdr, p, tdp, fail); };
-    };
-    kiv_test::expect_errors({
-        {"m", call(2, 2, 1, isz4, 4, 2), NE_INT_ARG_LT,
-         "NE_INT_ARG_LT:\n  On entry, m must not be less than 3: m = 2."},
-        {"ny", call(4, 1, 1, isz4, 4, 2), NE_INT_ARG_LT,
-         "NE_INT_ARG_LT:\n  On entry, ny must not be less than 2: ny = 1."},
-        {"nx", call(4, 2, 0, isz4, 4, 2), NE_INT_ARG_LT,
-         "NE_INT_ARG_LT:\n  On entry, nx must not be less than 1: nx = 0."},
-        {"ny+nx", call(4, 3, 2, isz4, 4, 2), NE_3_INT_ARG_CONS,
-         "NE_3_INT_ARG_CONS:\n  On entry, ny = 3, nx = 2 and m = 4.\n  Constraint: ny + nx <= m."},
-        {"tdr", call(4, 2, 2, isz4, 3, 2), NE_2_INT_ARG_LT,
-         "NE_2_INT_ARG_LT:\n  On entry, tdr =  3 while m =  4.\n"
-         "  These parameters must satisfy tdr >= m."},
-        {"tdp", call(4, 2, 2, isz4, 4, 1), NE_2_INT_ARG_LT,
-         "NE_2_INT_ARG_LT:\n  On entry, tdp =  1 while ny =  2.\n"
-         "  These parameters must satisfy tdp >= ny."},
-        {"isz", call(4, 2, 2, nullptr, 4, 2), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter isz had an illegal value."},
-        {"ny set", call(4, 2, 1, too_many_y, 4, 2), NE_BAD_NY_SET,
-         "NE_BAD_NY_SET:\n  On entry, ny = 2 and there are not exactly ny values of isz < 0.\n"
-         "  Number of values of isz < 0 = 3."},
-        {"nx set", call(4, 2, 2, too_few_x, 4, 2), NE_BAD_NX_SET,
-         "NE_BAD_NX_SET:\n  On entry, nx = 2 and there are not exactly nx values of isz < 0."},
-        {"rank", call(4, 2, 2, isz4, 4, 2, singular), NE_COR_MAT_RANK,
-         "NE_COR_MAT_RANK:\n  On entry, either the variance-covariance matrix or the "
-         "correlation\n  matrix is not of full rank. Try removing some of the x variables by\n"
-         "  setting the appropriate elements of isz to zero."},
-        {"posdef", call(3, 2, 1, isz3, 3, 2, indefinite), NE_COR_MAT_POSDEF,
-         "NE_COR_MAT_POSDEF:\n  Either a diagonal element of the partial variance-covariance "
-         "matrix is zero\n  and/or a computed partial correlation coefficient is greater than "
-         "one. Both\n  indicate that the matrix input in r was not positive-definite."},
-    });
-    for (long successes = 0; successes < 2; ++successes) {
-        KivError fail = quiet_record();
-        kiv::rt::testing::fail_allocations_after(successes);
-        call(4, 2, 2, isz4, 4, 2)(&fail);
-        kiv::rt::testing::fail_allocations_after(-1);
-        EXPECT_EQ(fail.code, NE_ALLOC_FAIL) << successes;
-    }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // g02bxc: weighted Pearson correlations against a 50-digit two-pass
 // reference, zero weights as removed observations, a zero-variance
-// variable, selections and strides, and every error path.
+// variable, selections and strides. Argument checks and allocation
+// failures are in tests/reliability.
 #include <gtest/gtest.h>
 
 #include <boost/multiprecision/cpp_bin_float.hpp>
@@ -10,7 +11,6 @@
 
 #include "g02_test_support.hpp"
 #include "kiv.h"
-#include "runtime/testing.hpp"
 
 namespace {
 
@@ -120,60 +120,6 @@ TEST(G02bxc, ZeroVarianceVariableGivesWarningAndZeroCorrelations) {
     for (int j = 0; j < 3; ++j) {
         EXPECT_EQ(r[1 * 3 + j], 0.0);
         EXPECT_EQ(r[j * 3 + 1], 0.0);
-    }
-}
-
-namespace errors {
-const double data[8] = {1, 2, 3, 4, 5, 6, 7, 8};
-double out[16];
-double sw;
-const int sx_ok[2] = {1, 1}, sx_neg[2] = {1, -1}, sx_none[2] = {0, 0};
-const double wt_neg[4] = {1, -1, 1, 1}, wt_nan[4] = {1, NAN, 1, 1},
-             wt_half[4] = {0.5, 0.25, 0.25, 0};
-}  // namespace errors
-
-TEST(G02bxc, ErrorPathsInOrder) {
-    using namespace errors;
-    auto call = [](int n, int m, int tdx, int tdr, int tdv, const int *sx = sx_ok,
-                   const double *wt = nullptr, const double *x = data) {
-        return [=](KivError *fail) {
-            g02bxc(n, m, x, tdx, sx, wt, &sw, out, out + 2, out + 4, tdr, out + 8, tdv, fail);
-        };
-    };
-    kiv_test::expect_errors({
-        {"n", call(1, 0, 0, 0, 0), NE_INT_ARG_LE,
-         "NE_INT_ARG_LE:\n  On entry, n must not be less than or equal to 1: n = 1."},
-        {"m", call(4, 0, 0, 0, 0), NE_INT_ARG_LT,
-         "NE_INT_ARG_LT:\n  On entry, m must not be less than 1: m = 0."},
-        {"tdx", call(4, 2, 1, 0, 0), NE_2_INT_ARG_LT,
-         "NE_2_INT_ARG_LT:\n  On entry, tdx =  1 while m =  2.\n"
-         "  These parameters must satisfy tdx >= m."},
-        {"tdv", call(4, 2, 2, 0, 1), NE_2_INT_ARG_LT,
-         "NE_2_INT_ARG_LT:\n  On entry, tdv =  1 while m =  2.\n"
-         "  These parameters must satisfy tdv >= m."},
-        {"tdr", call(4, 2, 2, 1, 2), NE_2_INT_ARG_LT,
-         "NE_2_INT_ARG_LT:\n  On entry, tdr =  1 while m =  2.\n"
-         "  These parameters must satisfy tdr >= m."},
-        {"x", call(4, 2, 2, 2, 2, sx_ok, nullptr, nullptr), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter x had an illegal value."},
-        {"weight", call(4, 2, 2, 2, 2, sx_neg, wt_neg), NE_NEG_WEIGHT,
-         "NE_NEG_WEIGHT:\n  On entry, at least one of the weights is negative."},
-        {"NaN weight", call(4, 2, 2, 2, 2, sx_ok, wt_nan), NE_NEG_WEIGHT,
-         "NE_NEG_WEIGHT:\n  On entry, at least one of the weights is negative."},
-        {"sx<0", call(4, 2, 2, 2, 2, sx_neg), NE_NEG_SX,
-         "NE_NEG_SX:\n  On entry, at least one element of sx is negative."},
-        {"sx none", call(4, 2, 2, 2, 2, sx_none), NE_POS_SX,
-         "NE_POS_SX:\n  On entry, sx does not contain a positive element."},
-        {"sw<=1", call(4, 2, 2, 2, 2, sx_ok, wt_half), NE_SW_LT_ONE,
-         "NE_SW_LT_ONE:\n  On entry, the sum of weights is less than 1.0."},
-    });
-    EXPECT_EQ(sw, 1.0);
-    for (long successes = 0; successes < 2; ++successes) {
-        KivError fail = quiet_record();
-        kiv::rt::testing::fail_allocations_after(successes);
-        call(4, 2, 2, 2, 2)(&fail);
-        kiv::rt::testing::fail_allocations_after(-1);
-        EXPECT_EQ(fail.code, NE_ALLOC_FAIL) << successes;
     }
 }
 

@@ -1,10 +1,9 @@
 // g02btc, g02buc, g02bwc: a hand-worked weighted example, one-at-a-time
 // updates (with a removal by negative weight) against the whole-matrix
-// routine in both storage orders, correlations against g02bxc, the fault
-// text round trip, and every error path.
+// routine in both storage orders, correlations against g02bxc, and the
+// fault text round trip. Argument checks are in tests/reliability.
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -12,11 +11,9 @@
 #include "g02/sums_of_squares_core.hpp"
 #include "g02_test_support.hpp"
 #include "kiv.h"
-#include "runtime/testing.hpp"
 
 namespace {
 
-using kiv_test::ErrorCase;
 using kiv_test::quiet_record;
 
 struct Sums {
@@ -144,84 +141,6 @@ TEST(LayeredRoutines, FaultTextRoundTrip) {
     char small[10];
     kiv::g02::g02bwz(2, nullptr, &indicator, small, 10);
     EXPECT_NE(indicator, 0);
-}
-
-namespace errors {
-double sw_neg = -1, sw_one = 1, sw_ok = 0, out[8];
-const double data[6] = {1, 2, 3, 4, 5, 6}, wt_neg[3] = {1, 1, -2}, wt_nan[3] = {NAN, 1, 1};
-}  // namespace errors
-
-TEST(LayeredRoutines, ErrorPathsInOrder) {
-    using namespace errors;
-    auto update = [](int mode, int m, double wt, int incx, double *sw, const double *x = data,
-                     double *c = out + 4) {
-        return [=](KivError *fail) {
-            g02btc(static_cast<Kiv_SumSquare>(mode), m, wt, x, incx, sw, out, c, fail);
-        };
-    };
-    auto matrix = [](int mode, int order, int n, int m, int pdx, const double *wt = nullptr,
-                     double *c = out + 4) {
-        return [=](KivError *fail) {
-            g02buc(static_cast<Kiv_SumSquare>(mode), static_cast<Kiv_OrderType>(order), n, m, data,
-                   pdx, wt, &sw_ok, out, c, fail);
-        };
-    };
-    const int M = Kiv_AboutMean, R = Kiv_RowMajor, C = Kiv_ColMajor;
-    kiv_test::expect_errors({
-        {"btc mean", update(0, 2, 1, 1, &sw_ok), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter mean had an illegal value."},
-        {"btc x", update(M, 2, 1, 1, &sw_ok, nullptr), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter x had an illegal value."},
-        {"btc sw", update(M, 2, 1, 1, nullptr), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter sw had an illegal value."},
-        {"btc c", update(M, 2, 1, 1, &sw_ok, data, nullptr), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter c had an illegal value."},
-        {"btc incx", update(M, 0, 1, 0, &sw_neg), NE_INT,
-         "NE_INT:\n    On entry, incx = 0.\nConstraint: incx >= 1."},
-        {"btc m", update(M, 0, 1, 1, &sw_neg), NE_INT,
-         "NE_INT:\n    On entry, m = 0.\nConstraint: m >= 1."},
-        {"btc sw<0", update(M, 2, 1, 1, &sw_neg), NE_REAL,
-         "NE_REAL:\n    On entry, *sw = -1.\nConstraint: *sw >= 0.0."},
-        {"btc sw+wt<0", update(M, 2, -2, 1, &sw_one), NE_SUM_WEIGHT,
-         "NE_SUM_WEIGHT:\n    On entry, (*sw+wt) < 0.0: (*sw+wt) = -1."},
-        {"buc mean", matrix(Kiv_RowMajor, R, 3, 2, 2), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter mean had an illegal value."},
-        {"buc order", matrix(M, Kiv_AboutZero, 3, 2, 2), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter order had an illegal value."},
-        {"buc m", matrix(M, R, 0, 0, 0), NE_INT,
-         "NE_INT:\n  On entry, m = 0.\n  Constraint: m >= 1."},
-        {"buc n", matrix(M, R, 0, 2, 0), NE_INT,
-         "NE_INT:\n  On entry, n = 0.\n  Constraint: n >= 1."},
-        {"buc pdx", matrix(M, C, 3, 2, 0), NE_INT,
-         "NE_INT:\n  On entry, pdx = 0.\n  Constraint: pdx > 0."},
-        {"buc pdx>=m", matrix(M, R, 3, 2, 1), NE_INT_2,
-         "NE_INT_2:\n  On entry, pdx = 1, m = 2.\n  Constraint: pdx>=m."},
-        {"buc c", matrix(M, R, 3, 2, 2, nullptr, nullptr), NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter c had an illegal value."},
-        {"buc pdx>=n", matrix(M, C, 3, 2, 2), NE_INT_2,
-         "NE_INT_2:\n    On entry, pdx = 2, n = 3.\nConstraint: pdx >= n."},
-        {"buc weight", matrix(M, R, 3, 2, 2, wt_neg), NE_REAL_ARRAY_ELEM_CONS,
-         "NE_REAL_ARRAY_ELEM_CONS:\n    On entry, wt[2] < 0.0."},
-        {"buc NaN weight", matrix(M, C, 3, 2, 3, wt_nan), NE_REAL_ARRAY_ELEM_CONS,
-         "NE_REAL_ARRAY_ELEM_CONS:\n    On entry, wt[0] < 0.0."},
-        {"buc n*m overflow",
-         [](KivError *fail) {
-             g02buc(Kiv_AboutMean, Kiv_RowMajor, INT_MAX, INT_MAX, data, INT_MAX, nullptr, &sw_ok,
-                    out, out, fail);
-         },
-         NE_ALLOC_FAIL, "NE_ALLOC_FAIL:\n  Memory allocation failed."},
-        {"bwc r", [](KivError *fail) { g02bwc(2, nullptr, fail); }, NE_BAD_PARAM,
-         "NE_BAD_PARAM:\n  On entry, parameter r had an illegal value."},
-        {"bwc m", [](KivError *fail) { g02bwc(0, out, fail); }, NE_INT,
-         "NE_INT:\n    On entry, m = 0.\nConstraint: m >= 1."},
-    });
-    KivError fail = quiet_record();
-    update(M, 2, 1, 1, &sw_neg)(&fail);
-    EXPECT_EQ(fail.errnum, 1);
-    kiv::rt::testing::fail_allocations_after(0);
-    matrix(M, R, 3, 2, 2)(&fail);
-    kiv::rt::testing::fail_allocations_after(-1);
-    EXPECT_EQ(fail.code, NE_ALLOC_FAIL);
 }
 
 }  // namespace

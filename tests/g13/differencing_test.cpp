@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <cstdint>
 #include <vector>
 
@@ -13,7 +12,6 @@
 
 namespace {
 
-using g13_test::expect_report;
 using g13_test::quiet_record;
 
 struct Result {
@@ -92,22 +90,16 @@ TEST(G13aac, MatchesExpandedOperatorAndInvertsExactly) {
 
 // x_t = 10 + t/2 + pattern(t mod 4): one seasonal difference of period 4
 // leaves the constant 4 * 1/2; a further simple difference leaves zero.
-// Squares lose their curvature after two simple differences.
 TEST(G13aac, RemovesKnownTrendAndSeasonalPattern) {
     const double pattern[] = {3.0, -1.0, 2.0, -4.0};
-    std::vector<double> x(24), squares(24);
-    for (int t = 0; t < 24; ++t) {
-        x[t] = 10.0 + 0.5 * t + pattern[t % 4];
-        squares[t] = static_cast<double>(t) * t;
-    }
+    std::vector<double> x(24);
+    for (int t = 0; t < 24; ++t) x[t] = 10.0 + 0.5 * t + pattern[t % 4];
     Result seasonal = run(x, 24, 0, 1, 4);
     EXPECT_EQ(seasonal.nxd, 20);
     for (int t = 0; t < 20; ++t) EXPECT_EQ(seasonal.xd[t], 2.0);
     Result both = run(x, 24, 1, 1, 4);
     EXPECT_EQ(both.nxd, 19);
     for (int t = 0; t < 19; ++t) EXPECT_EQ(both.xd[t], 0.0);
-    Result curvature = run(squares, 24, 2, 0, 0);
-    for (int t = 0; t < 22; ++t) EXPECT_EQ(curvature.xd[t], 2.0);
     // The series may be differenced in place.
     std::vector<double> in_place = x;
     int nxd = 0;
@@ -115,41 +107,6 @@ TEST(G13aac, RemovesKnownTrendAndSeasonalPattern) {
     g13aac(in_place.data(), 24, 1, 1, 4, in_place.data(), &nxd, &fail);
     EXPECT_EQ(std::vector<double>(in_place.begin(), in_place.begin() + 19),
               std::vector<double>(both.xd.begin(), both.xd.begin() + 19));
-}
-
-TEST(G13aac, ArgumentErrorsInOrderWithIndicatorAndUntouchedOutputs) {
-    struct Case {
-        int nx, d, ds, s, code, errnum;
-        const char *message;
-    };
-    const Case cases[] = {
-        {10, -1, -2, -3, NE_INT, 1, "NE_INT:\n    On entry, d = -1.\nConstraint: d >= 0."},
-        {10, 0, -2, -3, NE_INT, 1, "NE_INT:\n    On entry, ds = -2.\nConstraint: ds >= 0."},
-        {10, 0, 0, -3, NE_INT, 1, "NE_INT:\n    On entry, s = -3.\nConstraint: s >= 0."},
-        {10, 1, 2, 0, NE_INT_2, 1, "NE_INT_2:\n    On entry, s = 0 and ds > 0:\n    ds =2."},
-        {5, 1, 1, 4, NE_INT_4, 2,
-         "NE_INT_4:\n    On entry, nx <= d+(ds*s):\n    nx =5, d =1\n    ds =1, s =4."},
-        {1, 1, 0, 0, NE_INT_4, 2,
-         "NE_INT_4:\n    On entry, nx <= d+(ds*s):\n    nx =1, d =1\n    ds =0, s =0."},
-        {0, 0, 0, 0, NE_INT_4, 2,
-         "NE_INT_4:\n    On entry, nx <= d+(ds*s):\n    nx =0, d =0\n    ds =0, s =0."},
-        {10, 0, INT_MAX, INT_MAX, NE_INT_4, 2,
-         "NE_INT_4:\n    On entry, nx <= d+(ds*s):\n    nx =10, d =0\n"
-         "    ds =2147483647, s =2147483647."},
-    };
-    const std::vector<double> x(10, 1.0);
-    for (const Case &c : cases) {
-        Result out = run(x, c.nx, c.d, c.ds, c.s);
-        expect_report(out.fail, c.code, c.message);
-        EXPECT_EQ(out.fail.errnum, c.errnum);
-        EXPECT_EQ(out.nxd, -1);
-        EXPECT_EQ(out.xd[0], -9.0);
-    }
-    int nxd = 0;
-    KivError fail = quiet_record();
-    g13aac(x.data(), 10, 1, 0, 0, nullptr, &nxd, &fail);
-    expect_report(fail, NE_BAD_PARAM,
-                  "NE_BAD_PARAM:\n  On entry, parameter xd had an illegal value.");
 }
 
 TEST(G13aac, UnreadableFaultTextIsAnInternalError) {
@@ -161,7 +118,8 @@ TEST(G13aac, UnreadableFaultTextIsAnInternalError) {
          {"", "garbage", "G13AAZ 1 99999 1", "G13AAZ 2 99995 4 5 1 1", "G13AAZ 1 12345 1 7"}) {
         KivError fail = quiet_record();
         kiv::g13::report_differencing_fault(3, text, "g13aac", &fail);
-        expect_report(fail, NE_INTERNAL_ERROR, internal);
+        EXPECT_EQ(fail.code, NE_INTERNAL_ERROR);
+        EXPECT_STREQ(fail.message, internal);
         EXPECT_EQ(fail.errnum, 3);
     }
     char short_area[100];

@@ -18,11 +18,6 @@ inline KivError quiet_record() {
     return fail;
 }
 
-inline void expect_report(const KivError &fail, int code, const char *message) {
-    EXPECT_EQ(fail.code, code);
-    EXPECT_STREQ(fail.message, message);
-}
-
 // Deterministic uniform numbers on [-0.5, 0.5) from a 64-bit linear
 // congruential generator (Knuth's MMIX constants): the same on every platform.
 class Uniform {

@@ -26,7 +26,7 @@ using kiv::rt::testing::fail_allocations_after;
 constexpr char kAllocFail[] = "NE_ALLOC_FAIL:\n  Memory allocation failed.";
 
 // Routines that must use work arrays whatever their data.
-const std::set<std::string> kMustAllocate = {"g02brc", "g02buc", "g02bxc", "g02byc"};
+const std::set<std::string> kMustAllocate = {"g02brc", "g02buc", "g02bxc", "g02byc", "g13abc"};
 
 TEST(AllocationFailure, EveryFailingAllocationIsReportedAndTheNextSucceeds) {
     // Per-thread generator state is created first, so that only the
