@@ -47,8 +47,10 @@
 //   (1973) 927-937.
 //   L. Devroye, Non-Uniform Random Variate Generation, Springer, 1986,
 //   Section IV.2.
+#include <array>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -58,6 +60,7 @@
 
 namespace {
 
+using kiv::g05::BasicGeneratorState;
 using kiv::g05::next_uniform;
 using kiv::g05::ThreadRecords;
 
@@ -66,58 +69,111 @@ constexpr double no_state = std::numeric_limits<double>::quiet_NaN();
 constexpr int normal_intervals = 40;
 
 // The interval index: 1 plus the number of doublings that take the carried
-// uniform c above 1/2, at most 40. For 0 < c <= 1 that number is
-// 1022 - (exponent field of the bits of c less one) (a power of two borrows
-// into the exponent), which saves a loop of unpredictable length; any other
-// carried value takes the loop itself.
+// uniform c above 1/2, at most 40. For 0 < c <= 1 (bits 1..bits(1.0) as an
+// unsigned integer) that number is 1022 - (exponent field of the bits of c
+// less one) (a power of two borrows into the exponent), which saves a loop
+// of unpredictable length; any other carried value takes the loop itself.
+constexpr std::uint64_t one_bits = 0x3ff0000000000000u;
+constexpr std::uint64_t half_bits = 0x3fe0000000000000u;
+
+inline bool carry_in_unit_interval(std::uint64_t bits) {
+    return bits - 1 < one_bits;
+}
+
+inline int interval_from_bits(std::uint64_t bits) {
+    const auto doublings = 1022 - static_cast<int>((bits - 1) >> 52);
+    return 1 + (doublings < normal_intervals - 1 ? doublings : normal_intervals - 1);
+}
+
 int interval_from(double carry) {
-    if (carry > 0.0 && carry <= 1.0) [[likely]] {
-        const auto exponent = static_cast<int>((std::bit_cast<std::uint64_t>(carry) - 1) >> 52);
-        const int doublings = 1022 - exponent;
-        return 1 + (doublings < normal_intervals - 1 ? doublings : normal_intervals - 1);
-    }
+    const auto bits = std::bit_cast<std::uint64_t>(carry);
+    if (carry_in_unit_interval(bits)) [[likely]]
+        return interval_from_bits(bits);
     int interval = 1;
     for (double c = carry; c <= 0.5 && interval < normal_intervals; c += c) ++interval;
     return interval;
 }
 
-// One normal deviate of mean a and standard deviation b.
-double normal_deviate(ThreadRecords &records, double a, double b) {
+// Per-interval constants, formed at compile time by the same double
+// operations as at run time: width = D_i - D_{i-1}, and half_width =
+// width/2, so that half_width u = (width u)/2 exactly (a scaling by 1/2 of
+// a product above 2^-64 is exact).
+struct IntervalConstants {
+    double lo, width, half_width;
+};
+
+constexpr auto interval_constants = [] {
+    std::array<IntervalConstants, normal_intervals + 1> table{};
+    for (int i = 1; i <= normal_intervals; ++i) {
+        const double lo = kiv::g05::normal_table[i - 1];
+        const double width = kiv::g05::normal_table[i] - lo;
+        table[static_cast<std::size_t>(i)] = {lo, width, 0.5 * width};
+    }
+    return table;
+}();
+
+// The carry and the sign from the accepted fresh uniform r >= 0: carry 2r
+// and sign + for r <= 1/2, carry 2r - 1 and sign - otherwise. The sign is
+// a coin toss, so this is done without branches on the bits: for r >= 0,
+// r > 1/2 as an integer comparison of the bits, 2r - 0 = 2r, and a + (-d)
+// = a - d exactly.
+inline double accept(double &carry, double fresh, double a, double deviation) {
+    const std::uint64_t upper_half = std::bit_cast<std::uint64_t>(fresh) > half_bits;
+    carry = (fresh + fresh) - std::bit_cast<double>((0 - upper_half) & one_bits);
+    return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^ (upper_half << 63));
+}
+
+// One normal deviate of mean a and standard deviation b, for any state:
+// every uniform bounds-tested, any carried value.
+[[gnu::noinline]] double normal_deviate(ThreadRecords &records, double a, double b) {
     double &carry = records.basic.carry_uniform;
     double u = next_uniform(records);
 
-    const int interval = interval_from(carry);
-    const double lo = kiv::g05::normal_table[interval - 1];
-    const double width = kiv::g05::normal_table[interval] - lo;
+    const IntervalConstants &interval = interval_constants[interval_from(carry)];
+    const double lo = interval.lo, width = interval.width;
 
     for (;;) {
         const double v = width * u;
         const double t = v * (lo + 0.5 * v);
-        // The chain t > u1 > u2 > ...: `place` counts the comparisons.
+        // The chain t > u1 > u2 > ...: `accept` flips at every fall.
         double previous = t;
         double current = next_uniform(records);
-        bool accept = true;
+        bool accepted = true;
         while (previous > current) {
             previous = current;
             current = next_uniform(records);
-            accept = !accept;
+            accepted = !accepted;
         }
         const double fresh = (current - previous) / (1.0 - previous);
-        if (accept) {
-            // Without branches, the sign being a coin toss: in integer bits,
-            // x - 0 = x and a + (-d) = a - d exactly, so this is the two-way
-            // rule above.
-            const std::uint64_t upper_half =
-                std::bit_cast<std::uint64_t>(fresh) > std::bit_cast<std::uint64_t>(0.5);
-            const std::uint64_t mask = 0 - upper_half;
-            carry =
-                (fresh + fresh) - std::bit_cast<double>(mask & std::bit_cast<std::uint64_t>(1.0));
-            const double deviation = b * (lo + v);
-            return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^
-                                             (upper_half << 63));
-        }
+        if (accepted) return accept(carry, fresh, a, b * (lo + v));
         u = fresh;
     }
+}
+
+// The common case, about 85% of the calls: two uniforms left in the buffer,
+// a carry in (0, 1] and acceptance at the first comparison (t <= u1). It
+// writes nothing until it accepts, so any other case starts again in the
+// general routine and gets the same result. The dependency from one call to
+// the next (carry, interval, t, the division, carry) is all that remains of
+// its latency.
+inline double normal_deviate_fast(ThreadRecords &records, double a, double b) {
+    BasicGeneratorState &state = records.basic;
+    const auto index = static_cast<unsigned>(state.buffer_index);
+    const auto carry_bits = std::bit_cast<std::uint64_t>(state.carry_uniform);
+    if (index <= static_cast<unsigned>(kiv::g05::buffer_length - 2) &&
+        carry_in_unit_interval(carry_bits)) [[likely]] {
+        const double u = state.buffer[index];
+        const double u1 = state.buffer[index + 1];
+        const IntervalConstants &interval = interval_constants[interval_from_bits(carry_bits)];
+        const double v = interval.width * u;
+        const double t = v * (interval.lo + interval.half_width * u);
+        if (t <= u1) [[likely]] {
+            state.buffer_index = static_cast<int>(index + 2);
+            const double fresh = (u1 - t) / (1.0 - t);
+            return accept(state.carry_uniform, fresh, a, b * (interval.lo + v));
+        }
+    }
+    return normal_deviate(records, a, b);
 }
 
 }  // namespace
@@ -145,7 +201,7 @@ KIV_API double g05dbc(double a) {
 KIV_API double g05ddc(double a, double b) {
     ThreadRecords *records = kiv::g05::current_records();
     if (records == nullptr) return no_state;
-    return normal_deviate(*records, a, b);
+    return normal_deviate_fast(*records, a, b);
 }
 
 KIV_API int g05dyc(int i, int j) {
