@@ -58,6 +58,10 @@
 #include "g05/normal_table.hpp"
 #include "kiv.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace {
 
 using kiv::g05::BasicGeneratorState;
@@ -96,8 +100,9 @@ int interval_from(double carry) {
 
 // Per-interval constants, formed at compile time by the same double
 // operations as at run time: width = D_i - D_{i-1}, and half_width =
-// width/2, so that half_width u = (width u)/2 exactly (a scaling by 1/2 of
-// a product above 2^-64 is exact).
+// width/2, so that half_width u = (width u)/2 exactly: scaling by 1/2 is
+// exact above the subnormal range, and width u is 0 or above 2^-70 for
+// every uniform u and every recycled (u2 - u1)/(1 - u1).
 struct IntervalConstants {
     double lo, width, half_width;
 };
@@ -114,17 +119,25 @@ constexpr auto interval_constants = [] {
 
 // The carry and the sign from the accepted fresh uniform r >= 0: carry 2r
 // and sign + for r <= 1/2, carry 2r - 1 and sign - otherwise. The sign is
-// a coin toss, so this is done without branches on the bits: for r >= 0,
-// r > 1/2 as an integer comparison of the bits, 2r - 0 = 2r, and a + (-d)
-// = a - d exactly.
+// a coin toss, so this is done without branches, with the mask of r > 1/2:
+// 2r - 0 = 2r, and a + (-d) = a - d exactly.
 inline double accept(double &carry, double fresh, double a, double deviation) {
+#if defined(__SSE2__)
+    const __m128d r = _mm_set_sd(fresh);
+    const __m128d upper_half = _mm_cmpgt_sd(r, _mm_set_sd(0.5));
+    carry = _mm_cvtsd_f64(_mm_sub_sd(_mm_add_sd(r, r), _mm_and_pd(upper_half, _mm_set_sd(1.0))));
+    const __m128d sign = _mm_and_pd(upper_half, _mm_set_sd(-0.0));
+    return a + _mm_cvtsd_f64(_mm_xor_pd(_mm_set_sd(deviation), sign));
+#else
     const std::uint64_t upper_half = std::bit_cast<std::uint64_t>(fresh) > half_bits;
     carry = (fresh + fresh) - std::bit_cast<double>((0 - upper_half) & one_bits);
     return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^ (upper_half << 63));
+#endif
 }
 
 // One normal deviate of mean a and standard deviation b, for any state:
-// every uniform bounds-tested, any carried value.
+// every uniform through next_uniform (refilling when spent), any carried
+// value.
 [[gnu::noinline]] double normal_deviate(ThreadRecords &records, double a, double b) {
     double &carry = records.basic.carry_uniform;
     double u = next_uniform(records);
@@ -135,7 +148,7 @@ inline double accept(double &carry, double fresh, double a, double deviation) {
     for (;;) {
         const double v = width * u;
         const double t = v * (lo + 0.5 * v);
-        // The chain t > u1 > u2 > ...: `accept` flips at every fall.
+        // The chain t > u1 > u2 > ...: `accepted` flips at every fall.
         double previous = t;
         double current = next_uniform(records);
         bool accepted = true;
@@ -150,30 +163,46 @@ inline double accept(double &carry, double fresh, double a, double deviation) {
     }
 }
 
-// The common case, about 85% of the calls: two uniforms left in the buffer,
-// a carry in (0, 1] and acceptance at the first comparison (t <= u1). It
-// writes nothing until it accepts, so any other case starts again in the
-// general routine and gets the same result. The dependency from one call to
-// the next (carry, interval, t, the division, carry) is all that remains of
-// its latency.
-inline double normal_deviate_fast(ThreadRecords &records, double a, double b) {
+// The same method for the common state, more than 95% of the calls: a
+// carry in (0, 1] and enough uniforms left in the buffer. The buffer is
+// read through a local index, in registers and without calls; the state is
+// written only on acceptance, so when the buffer runs out the general
+// routine starts the call again from the same state and gets the same
+// result. What remains of the latency is the dependency from one call to
+// the next: carry, interval, t, the division, carry.
+inline double normal_deviate_buffered(ThreadRecords &records, double a, double b) {
     BasicGeneratorState &state = records.basic;
-    const auto index = static_cast<unsigned>(state.buffer_index);
+    const double *const buffer = state.buffer;
+    constexpr auto end = static_cast<unsigned>(kiv::g05::buffer_length);
+    auto index = static_cast<unsigned>(state.buffer_index);
     const auto carry_bits = std::bit_cast<std::uint64_t>(state.carry_uniform);
-    if (index <= static_cast<unsigned>(kiv::g05::buffer_length - 2) &&
-        carry_in_unit_interval(carry_bits)) [[likely]] {
-        const double u = state.buffer[index];
-        const double u1 = state.buffer[index + 1];
-        const IntervalConstants &interval = interval_constants[interval_from_bits(carry_bits)];
+    if (index >= end - 1 || !carry_in_unit_interval(carry_bits)) [[unlikely]]
+        return normal_deviate(records, a, b);
+    const IntervalConstants &interval = interval_constants[interval_from_bits(carry_bits)];
+
+    double u = buffer[index++];
+    for (;;) {
         const double v = interval.width * u;
         const double t = v * (interval.lo + interval.half_width * u);
-        if (t <= u1) [[likely]] {
-            state.buffer_index = static_cast<int>(index + 2);
-            const double fresh = (u1 - t) / (1.0 - t);
+        double previous = t;
+        double current = buffer[index++];
+        bool accepted = true;
+        while (previous > current) {
+            if (index >= end) [[unlikely]]
+                return normal_deviate(records, a, b);
+            previous = current;
+            current = buffer[index++];
+            accepted = !accepted;
+        }
+        const double fresh = (current - previous) / (1.0 - previous);
+        if (accepted) [[likely]] {
+            state.buffer_index = static_cast<int>(index);
             return accept(state.carry_uniform, fresh, a, b * (interval.lo + v));
         }
+        if (index >= end) [[unlikely]]
+            return normal_deviate(records, a, b);
+        u = fresh;
     }
-    return normal_deviate(records, a, b);
 }
 
 }  // namespace
@@ -201,7 +230,7 @@ KIV_API double g05dbc(double a) {
 KIV_API double g05ddc(double a, double b) {
     ThreadRecords *records = kiv::g05::current_records();
     if (records == nullptr) return no_state;
-    return normal_deviate_fast(*records, a, b);
+    return normal_deviate_buffered(*records, a, b);
 }
 
 KIV_API int g05dyc(int i, int j) {
