@@ -72,27 +72,26 @@ constexpr double no_state = std::numeric_limits<double>::quiet_NaN();
 
 constexpr int normal_intervals = 40;
 
-// The interval index: 1 plus the number of doublings that take the carried
-// uniform c above 1/2, at most 40. For 0 < c <= 1 (bits 1..bits(1.0) as an
-// unsigned integer) that number is 1022 - (exponent field of the bits of c
-// less one) (a power of two borrows into the exponent), which saves a loop
-// of unpredictable length; any other carried value takes the loop itself.
+// The interval index i: 1 plus the number of doublings that take the
+// carried uniform c above 1/2, at most 40. For 0 < c <= 1 (bits 1..bits(1.0)
+// as an unsigned integer) that number is 1022 - e, e the exponent field of
+// the bits of c less one (a power of two borrows into the exponent), which
+// saves a loop of unpredictable length; any other carried value takes the
+// loop itself.
 constexpr std::uint64_t one_bits = 0x3ff0000000000000u;
 constexpr std::uint64_t half_bits = 0x3fe0000000000000u;
+constexpr std::uint64_t last_exponent = 1022 - (normal_intervals - 1);  // i = 40 at and below
 
 inline bool carry_in_unit_interval(std::uint64_t bits) {
     return bits - 1 < one_bits;
 }
 
-inline int interval_from_bits(std::uint64_t bits) {
-    const auto doublings = 1022 - static_cast<int>((bits - 1) >> 52);
-    return 1 + (doublings < normal_intervals - 1 ? doublings : normal_intervals - 1);
-}
-
 int interval_from(double carry) {
     const auto bits = std::bit_cast<std::uint64_t>(carry);
-    if (carry_in_unit_interval(bits)) [[likely]]
-        return interval_from_bits(bits);
+    if (carry_in_unit_interval(bits)) [[likely]] {
+        const std::uint64_t exponent = (bits - 1) >> 52;
+        return static_cast<int>(1022 - (exponent > last_exponent ? exponent : last_exponent)) + 1;
+    }
     int interval = 1;
     for (double c = carry; c <= 0.5 && interval < normal_intervals; c += c) ++interval;
     return interval;
@@ -102,20 +101,38 @@ int interval_from(double carry) {
 // operations as at run time: width = D_i - D_{i-1}, and half_width =
 // width/2, so that half_width u = (width u)/2 exactly: scaling by 1/2 is
 // exact above the subnormal range, and width u is 0 or above 2^-70 for
-// every uniform u and every recycled (u2 - u1)/(1 - u1).
-struct IntervalConstants {
+// every uniform u and every recycled (u2 - u1)/(1 - u1). Entry 40 - i holds
+// interval i, so that the clamped exponent indexes the table directly;
+// 32-byte entries make the index a shift.
+struct alignas(32) IntervalConstants {
     double lo, width, half_width;
 };
 
 constexpr auto interval_constants = [] {
-    std::array<IntervalConstants, normal_intervals + 1> table{};
+    std::array<IntervalConstants, normal_intervals> table{};
     for (int i = 1; i <= normal_intervals; ++i) {
         const double lo = kiv::g05::normal_table[i - 1];
         const double width = kiv::g05::normal_table[i] - lo;
-        table[static_cast<std::size_t>(i)] = {lo, width, 0.5 * width};
+        table[static_cast<std::size_t>(normal_intervals - i)] = {lo, width, 0.5 * width};
     }
     return table;
 }();
+
+inline const IntervalConstants &constants_of_interval(int interval) {
+    return interval_constants[static_cast<std::size_t>(normal_intervals - interval)];
+}
+
+// The same for a carry in (0, 1], from its bits: the clamped exponent field
+// less 983 is the table entry (the bias folded into the base address, so
+// that the index is the clamped field shifted).
+inline const IntervalConstants &constants_of_carry(std::uint64_t bits) {
+    const std::uint64_t exponent = (bits - 1) >> 52;
+    const std::uint64_t clamped = exponent > last_exponent ? exponent : last_exponent;
+    const std::uintptr_t biased_base = reinterpret_cast<std::uintptr_t>(interval_constants.data()) -
+                                       last_exponent * sizeof(IntervalConstants);
+    return *reinterpret_cast<const IntervalConstants *>(biased_base +
+                                                        clamped * sizeof(IntervalConstants));
+}
 
 // The carry and the sign from the accepted fresh uniform r >= 0: carry 2r
 // and sign + for r <= 1/2, carry 2r - 1 and sign - otherwise. The sign is
@@ -124,7 +141,7 @@ constexpr auto interval_constants = [] {
 inline double accept(double &carry, double fresh, double a, double deviation) {
 #if defined(__SSE2__)
     const __m128d r = _mm_set_sd(fresh);
-    const __m128d upper_half = _mm_cmpgt_sd(r, _mm_set_sd(0.5));
+    const __m128d upper_half = _mm_cmplt_sd(_mm_set_sd(0.5), r);
     carry = _mm_cvtsd_f64(_mm_sub_sd(_mm_add_sd(r, r), _mm_and_pd(upper_half, _mm_set_sd(1.0))));
     const __m128d sign = _mm_and_pd(upper_half, _mm_set_sd(-0.0));
     return a + _mm_cvtsd_f64(_mm_xor_pd(_mm_set_sd(deviation), sign));
@@ -142,7 +159,7 @@ inline double accept(double &carry, double fresh, double a, double deviation) {
     double &carry = records.basic.carry_uniform;
     double u = next_uniform(records);
 
-    const IntervalConstants &interval = interval_constants[interval_from(carry)];
+    const IntervalConstants &interval = constants_of_interval(interval_from(carry));
     const double lo = interval.lo, width = interval.width;
 
     for (;;) {
@@ -178,7 +195,7 @@ inline double normal_deviate_buffered(ThreadRecords &records, double a, double b
     const auto carry_bits = std::bit_cast<std::uint64_t>(state.carry_uniform);
     if (index >= end - 1 || !carry_in_unit_interval(carry_bits)) [[unlikely]]
         return normal_deviate(records, a, b);
-    const IntervalConstants &interval = interval_constants[interval_from_bits(carry_bits)];
+    const IntervalConstants &interval = constants_of_carry(carry_bits);
 
     double u = buffer[index++];
     for (;;) {
