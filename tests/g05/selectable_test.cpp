@@ -83,8 +83,8 @@ TEST(SelectableGenerators, GeneratorNumbersAndSeedsAreNormalised) {
         int seed[4] = {c.seed, c.seed, c.seed, c.seed};
         g05kbc(&g, seed);
         EXPECT_EQ(g, c.expected_generator) << c.generator;
-        if (c.expected_seed > 0)
-            for (int k = 0; k < 4; ++k) EXPECT_EQ(seed[k], c.expected_seed) << c.seed;
+        for (int k = 0; k < 4 && c.expected_seed > 0; ++k)
+            EXPECT_EQ(seed[k], c.expected_seed) << c.seed;
     }
 }
 
