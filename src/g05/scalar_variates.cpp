@@ -27,7 +27,12 @@
 //   (w - p)/(1 - p); on acceptance its first bit is the sign and the rest
 //   becomes the carried uniform, on rejection it is the next candidate's u.
 //   The tail beyond D_40 = 7.14 (probability 2^-40 per variate, merged into
-//   the last interval) is not generated.
+//   the last interval) is not generated. The common state (carry in (0, 1],
+//   two or more uniforms buffered) runs the method in registers and writes
+//   only on acceptance; otherwise, or when the buffer runs out, the general
+//   routine starts the call again and gets the same result. The latency
+//   bound is the dependency from one call to the next (carry, interval, t,
+//   1 - t, the division, carry), about 50 cycles.
 //
 // Accuracy: the variates are exact transforms of the uniforms (g05ddc's
 // output is distributed as the half-normal restricted to [0, D_40] with a
@@ -36,7 +41,9 @@
 // statistics (39 degrees of freedom, 5% point 54.6) are listed in
 // docs/random.md; all lie well inside the 10^-6 bound that the tests use.
 // g05ddc agrees bit for bit with a direct transcription of the method that
-// calls g05cac once per uniform (tests/g05/variates_test.cpp).
+// calls g05cac once per uniform, and its stream is frozen by hashes of 10^5
+// variates from three seeds (tests/g05/variates_test.cpp). About 97
+// instructions per variate (callgrind), refills included.
 //
 // References:
 //   G. E. Forsythe, von Neumann's comparison method for random sampling from
@@ -47,8 +54,10 @@
 //   (1973) 927-937.
 //   L. Devroye, Non-Uniform Random Variate Generation, Springer, 1986,
 //   Section IV.2.
+#include <array>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -56,8 +65,13 @@
 #include "g05/normal_table.hpp"
 #include "kiv.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace {
 
+using kiv::g05::BasicGeneratorState;
 using kiv::g05::next_uniform;
 using kiv::g05::ThreadRecords;
 
@@ -65,57 +79,152 @@ constexpr double no_state = std::numeric_limits<double>::quiet_NaN();
 
 constexpr int normal_intervals = 40;
 
-// The interval index: 1 plus the number of doublings that take the carried
-// uniform c above 1/2, at most 40. For 0 < c <= 1 that number is
-// 1022 - (exponent field of the bits of c less one) (a power of two borrows
-// into the exponent), which saves a loop of unpredictable length; any other
-// carried value takes the loop itself.
+// The interval index i: 1 plus the number of doublings that take the
+// carried uniform c above 1/2, at most 40. For 0 < c <= 1 (bits 1..bits(1.0)
+// as an unsigned integer) that number is 1022 - e, e the exponent field of
+// the bits of c less one (a power of two borrows into the exponent), which
+// saves a loop of unpredictable length; any other carried value takes the
+// loop itself.
+constexpr std::uint64_t one_bits = 0x3ff0000000000000u;
+constexpr std::uint64_t half_bits = 0x3fe0000000000000u;
+constexpr std::uint64_t last_exponent = 1022 - (normal_intervals - 1);  // i = 40 at and below
+
+inline bool carry_in_unit_interval(std::uint64_t bits) {
+    return bits - 1 < one_bits;
+}
+
 int interval_from(double carry) {
-    if (carry > 0.0 && carry <= 1.0) [[likely]] {
-        const auto exponent = static_cast<int>((std::bit_cast<std::uint64_t>(carry) - 1) >> 52);
-        const int doublings = 1022 - exponent;
-        return 1 + (doublings < normal_intervals - 1 ? doublings : normal_intervals - 1);
+    const auto bits = std::bit_cast<std::uint64_t>(carry);
+    if (carry_in_unit_interval(bits)) [[likely]] {
+        const std::uint64_t exponent = (bits - 1) >> 52;
+        return static_cast<int>(1022 - (exponent > last_exponent ? exponent : last_exponent)) + 1;
     }
     int interval = 1;
     for (double c = carry; c <= 0.5 && interval < normal_intervals; c += c) ++interval;
     return interval;
 }
 
-// One normal deviate of mean a and standard deviation b.
-double normal_deviate(ThreadRecords &records, double a, double b) {
+// Per-interval constants, formed at compile time by the same double
+// operations as at run time: width = D_i - D_{i-1}, and half_width =
+// width/2, so that half_width u = (width u)/2 exactly: scaling by 1/2 is
+// exact above the subnormal range, and width u is 0 or above 2^-70 for
+// every uniform u and every recycled (u2 - u1)/(1 - u1). Entry 40 - i holds
+// interval i, so that the clamped exponent indexes the table directly;
+// 32-byte entries make the index a shift.
+struct alignas(32) IntervalConstants {
+    double lo, width, half_width;
+};
+
+constexpr auto interval_constants = [] {
+    std::array<IntervalConstants, normal_intervals> table{};
+    for (int i = 1; i <= normal_intervals; ++i) {
+        const double lo = kiv::g05::normal_table[i - 1];
+        const double width = kiv::g05::normal_table[i] - lo;
+        table[static_cast<std::size_t>(normal_intervals - i)] = {lo, width, 0.5 * width};
+    }
+    return table;
+}();
+
+inline const IntervalConstants &constants_of_interval(int interval) {
+    return interval_constants[static_cast<std::size_t>(normal_intervals - interval)];
+}
+
+// The same for a carry in (0, 1], from its bits: the clamped exponent field
+// less 983 is the table entry (the bias folded into the base address, so
+// that the index is the clamped field shifted).
+inline const IntervalConstants &constants_of_carry(std::uint64_t bits) {
+    const std::uint64_t exponent = (bits - 1) >> 52;
+    const std::uint64_t clamped = exponent > last_exponent ? exponent : last_exponent;
+    const std::uintptr_t biased_base = reinterpret_cast<std::uintptr_t>(interval_constants.data()) -
+                                       last_exponent * sizeof(IntervalConstants);
+    return *reinterpret_cast<const IntervalConstants *>(biased_base +
+                                                        clamped * sizeof(IntervalConstants));
+}
+
+// The carry and the sign from the accepted fresh uniform r >= 0: carry 2r
+// and sign + for r <= 1/2, carry 2r - 1 and sign - otherwise. The sign is
+// a coin toss, so this is done without branches, with the mask of r > 1/2:
+// 2r - 0 = 2r, and a + (-d) = a - d exactly.
+inline double accept(double &carry, double fresh, double a, double deviation) {
+#if defined(__SSE2__)
+    const __m128d r = _mm_set_sd(fresh);
+    const __m128d upper_half = _mm_cmplt_sd(_mm_set_sd(0.5), r);
+    carry = _mm_cvtsd_f64(_mm_sub_sd(_mm_add_sd(r, r), _mm_and_pd(upper_half, _mm_set_sd(1.0))));
+    const __m128d sign = _mm_and_pd(upper_half, _mm_set_sd(-0.0));
+    return a + _mm_cvtsd_f64(_mm_xor_pd(_mm_set_sd(deviation), sign));
+#else
+    const std::uint64_t upper_half = std::bit_cast<std::uint64_t>(fresh) > half_bits;
+    carry = (fresh + fresh) - std::bit_cast<double>((0 - upper_half) & one_bits);
+    return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^ (upper_half << 63));
+#endif
+}
+
+// One normal deviate of mean a and standard deviation b, for any state:
+// every uniform through next_uniform (refilling when spent), any carried
+// value.
+[[gnu::noinline]] double normal_deviate(ThreadRecords &records, double a, double b) {
     double &carry = records.basic.carry_uniform;
     double u = next_uniform(records);
 
-    const int interval = interval_from(carry);
-    const double lo = kiv::g05::normal_table[interval - 1];
-    const double width = kiv::g05::normal_table[interval] - lo;
+    const IntervalConstants &interval = constants_of_interval(interval_from(carry));
+    const double lo = interval.lo, width = interval.width;
 
     for (;;) {
         const double v = width * u;
         const double t = v * (lo + 0.5 * v);
-        // The chain t > u1 > u2 > ...: `place` counts the comparisons.
+        // The chain t > u1 > u2 > ...: `accepted` flips at every fall.
         double previous = t;
         double current = next_uniform(records);
-        bool accept = true;
+        bool accepted = true;
         while (previous > current) {
             previous = current;
             current = next_uniform(records);
-            accept = !accept;
+            accepted = !accepted;
         }
         const double fresh = (current - previous) / (1.0 - previous);
-        if (accept) {
-            // Without branches, the sign being a coin toss: in integer bits,
-            // x - 0 = x and a + (-d) = a - d exactly, so this is the two-way
-            // rule above.
-            const std::uint64_t upper_half =
-                std::bit_cast<std::uint64_t>(fresh) > std::bit_cast<std::uint64_t>(0.5);
-            const std::uint64_t mask = 0 - upper_half;
-            carry =
-                (fresh + fresh) - std::bit_cast<double>(mask & std::bit_cast<std::uint64_t>(1.0));
-            const double deviation = b * (lo + v);
-            return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^
-                                             (upper_half << 63));
+        if (accepted) return accept(carry, fresh, a, b * (lo + v));
+        u = fresh;
+    }
+}
+
+// The same method for the common state, more than 95% of the calls: a
+// carry in (0, 1] and enough uniforms left in the buffer. The buffer is
+// read through a local index, in registers and without calls; the state is
+// written only on acceptance, so when the buffer runs out the general
+// routine starts the call again from the same state and gets the same
+// result. What remains of the latency is the dependency from one call to
+// the next: carry, interval, t, the division, carry.
+inline double normal_deviate_buffered(ThreadRecords &records, double a, double b) {
+    BasicGeneratorState &state = records.basic;
+    const double *const buffer = state.buffer;
+    constexpr auto end = static_cast<unsigned>(kiv::g05::buffer_length);
+    auto index = static_cast<unsigned>(state.buffer_index);
+    const auto carry_bits = std::bit_cast<std::uint64_t>(state.carry_uniform);
+    if (index >= end - 1 || !carry_in_unit_interval(carry_bits)) [[unlikely]]
+        return normal_deviate(records, a, b);
+    const IntervalConstants &interval = constants_of_carry(carry_bits);
+
+    double u = buffer[index++];
+    for (;;) {
+        const double v = interval.width * u;
+        const double t = v * (interval.lo + interval.half_width * u);
+        double previous = t;
+        double current = buffer[index++];
+        bool accepted = true;
+        while (previous > current) {
+            if (index >= end) [[unlikely]]
+                return normal_deviate(records, a, b);
+            previous = current;
+            current = buffer[index++];
+            accepted = !accepted;
         }
+        const double fresh = (current - previous) / (1.0 - previous);
+        if (accepted) [[likely]] {
+            state.buffer_index = static_cast<int>(index);
+            return accept(state.carry_uniform, fresh, a, b * (interval.lo + v));
+        }
+        if (index >= end) [[unlikely]]
+            return normal_deviate(records, a, b);
         u = fresh;
     }
 }
@@ -145,7 +254,7 @@ KIV_API double g05dbc(double a) {
 KIV_API double g05ddc(double a, double b) {
     ThreadRecords *records = kiv::g05::current_records();
     if (records == nullptr) return no_state;
-    return normal_deviate(*records, a, b);
+    return normal_deviate_buffered(*records, a, b);
 }
 
 KIV_API int g05dyc(int i, int j) {

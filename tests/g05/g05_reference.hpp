@@ -1,9 +1,12 @@
 // Independent references for the generator tests: the recurrence
-// x_{k+1} = 13^13 x_k mod 2^59 in 128-bit integer arithmetic, and the
-// uniform x/2^59 formed by a single rounding of the integer.
+// x_{k+1} = 13^13 x_k mod 2^59 in 128-bit integer arithmetic, the uniform
+// x/2^59 formed by a single rounding of the integer, and the thread's
+// carried uniform through the state accessor.
 #pragma once
 
 #include <cstdint>
+
+#include "kiv.h"
 
 namespace g05_reference {
 
@@ -22,12 +25,13 @@ inline double uniform(std::uint64_t x) {
     return u < 1.0 ? u : 1.0 - 0x1p-53;
 }
 
-// The inverse of 13^13 modulo 2^64 (Newton's iteration doubles the number
-// of correct low bits each time).
-inline std::uint64_t inverse_a() {
-    std::uint64_t inverse = a;
-    for (int k = 0; k < 6; ++k) inverse *= 2 - a * inverse;
-    return inverse;
+// The carried uniform of the calling thread (carry_uniform).
+inline double &carried_uniform() {
+    int code = 0;
+    int *pieces = nullptr;
+    double *carries = nullptr, *buffer = nullptr, *scale = nullptr;
+    g05caz(&code, &pieces, &carries, &buffer, &scale);
+    return carries[0];
 }
 
 }  // namespace g05_reference
