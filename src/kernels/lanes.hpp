@@ -31,10 +31,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 namespace kiv::kernels {
 
 #if defined(__GNUC__)
+// Kernels that must be inlined into their caller (a vector value never
+// crosses a call between baseline and AVX2 code).
+#define KIV_ALWAYS_INLINE inline __attribute__((always_inline))
 #define KIV_HAVE_LANES 1
 // GCC notes that a 32-byte vector passed by value without AVX uses another
 // calling convention than with AVX. No such call crosses between the two:
@@ -45,6 +49,8 @@ namespace kiv::kernels {
 // Four doubles and the matching 64-bit integer lanes (masks, bit patterns).
 typedef double Lanes4 __attribute__((vector_size(32)));
 typedef std::int64_t Mask4 __attribute__((vector_size(32)));
+#else
+#define KIV_ALWAYS_INLINE inline
 #endif
 
 // ---- single value -----------------------------------------------------------
@@ -130,11 +136,19 @@ inline void store(double *target, Lanes4 v) {
     std::memcpy(target, &v, sizeof v);
 }
 
-// out[i] = kernel(in[i]) for i < n, four at a time; the lanes beyond n in
-// the last group hold `fill`, a value inside the kernel's domain.
+// out[i] = kernel(in[i]) for i < n, eight at a time as two independent
+// groups of four (so that one group's latency-bound chains overlap the
+// other's), then four, then the rest; the lanes beyond n in the last group
+// hold `fill`, a value inside the kernel's domain.
 template <class Kernel>
 inline void apply_lanes(int n, const double *in, double *out, double fill, Kernel kernel) {
     int i = 0;
+    for (; i + 8 <= n; i += 8) {
+        const Lanes4 first = kernel(load(in + i));
+        const Lanes4 second = kernel(load(in + i + 4));
+        store(out + i, first);
+        store(out + i + 4, second);
+    }
     for (; i + 4 <= n; i += 4) store(out + i, kernel(load(in + i)));
     if (i < n) store_partial(out + i, n - i, kernel(load_partial(in + i, n - i, fill)));
 }
@@ -163,12 +177,19 @@ inline LaneSet best_lane_set() {
 
 // Horner's rule for c[0] + c[1] x + ... + c[N-1] x^(N-1), a table listed
 // from the constant term up, evaluated from the highest power down:
-// ((c[N-1] x + c[N-2]) x + ...) x + c[0].
-template <class V, std::size_t N>
-inline V polynomial(V x, const double (&c)[N]) {
+// ((c[N-1] x + c[N-2]) x + ...) x + c[0]. Written as a fold so that the
+// steps are unrolled: a loop's counter and compare would add instructions
+// to a latency-bound chain and crowd the window in which independent calls
+// overlap.
+template <class V, std::size_t N, std::size_t... I>
+KIV_ALWAYS_INLINE V horner_steps(V x, const double (&c)[N], std::index_sequence<I...>) {
     V sum = broadcast(c[N - 1], x);
-    for (std::size_t i = N - 1; i-- > 0;) sum = sum * x + c[i];
+    ((sum = sum * x + c[N - 2 - I]), ...);
     return sum;
+}
+template <class V, std::size_t N>
+KIV_ALWAYS_INLINE V polynomial(V x, const double (&c)[N]) {
+    return horner_steps(x, c, std::make_index_sequence<N - 1>());
 }
 
 // 2^k from s = k + 0x1.8p52 (the sum that rounded k to an integer): the low

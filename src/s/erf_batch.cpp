@@ -7,7 +7,8 @@
 // whose result is discarded.
 //
 // Speed (bench/normal_bench.cpp, 262,144 values uniform on [-8, 8]): about
-// 9 ns per value with AVX2 on a shared AMD EPYC; see docs/normal.md.
+// 7 ns per value with AVX2 on a shared AMD EPYC (Zen 3), two groups of four
+// values per iteration; see docs/normal.md.
 #include "kiv.h"
 #include "s/erf.hpp"
 

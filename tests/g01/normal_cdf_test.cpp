@@ -2,9 +2,7 @@
 // the success report, and the batch form's agreement with the scalar one.
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -87,15 +85,6 @@ TEST(NormalTailProbability, ExactValues) {
         ASSERT_EQ(g01eac(Kiv_TwoTailSignif, -x, nullptr), g01eac(Kiv_TwoTailSignif, x, nullptr));
 }
 
-TEST(NormalTailProbability, InvalidTailIsRefused) {
-    for (int tail : kiv::test::kInvalidTails) {
-        KivError fail = kiv::test::quiet_record();
-        EXPECT_EQ(g01eac(static_cast<Kiv_Tail>(tail), 1.0, &fail), 0.0) << tail;
-        EXPECT_EQ(fail.code, NE_BAD_PARAM);
-        EXPECT_STREQ(fail.message, kiv::test::kBadTailMessage);
-    }
-}
-
 std::vector<std::string> handler_log;
 void log_handler(const char *message, int code, const char *routine) {
     handler_log.push_back(std::string(routine) + "|" + std::to_string(code) + "|" + message);
@@ -128,27 +117,22 @@ TEST(NormalTailProbability, BatchMatchesScalarBitForBit) {
     std::vector<double> x = {0.0, -0.0, kInf, -kInf, kNaN, 8.84, -8.84, 37.62, -37.62, 1e-300};
     std::mt19937_64 engine(5);
     std::uniform_real_distribution<double> uniform(-40.0, 40.0);
-    for (int i = 0; i < 40000; ++i) x.push_back(uniform(engine));
+    for (int i = 0; i < 20000; ++i) x.push_back(uniform(engine));
     for (Kiv_Tail tail : kTails) {
-        for (int n : {static_cast<int>(x.size()), 0, 1, 2, 3, 6}) {
+        for (int n : {static_cast<int>(x.size()), 0, 1, 6, 11}) {
             std::vector<double> out(n + 1, 7.0);
             KivError fail = kiv::test::quiet_record();
             g01eac_v(tail, n, x.data(), out.data(), &fail);
             EXPECT_EQ(fail.code, NE_NOERROR);
-            for (int i = 0; i < n; ++i) {
-                const double scalar = g01eac(tail, x[i], nullptr);
-                if (!std::isnan(scalar)) {
-                    ASSERT_EQ(std::bit_cast<std::uint64_t>(out[i]),
-                              std::bit_cast<std::uint64_t>(scalar))
-                        << tail << " " << x[i];
-                }
-            }
+            for (int i = 0; i < n; ++i)
+                ASSERT_TRUE(kiv::test::same_bits(out[i], g01eac(tail, x[i], nullptr)))
+                    << tail << " " << x[i];
             EXPECT_EQ(out[n], 7.0);
         }
     }
 }
 
-TEST(NormalTailProbability, BatchChecks) {
+TEST(NormalTailProbability, BadTailAndBatchChecks) {
     double x[3] = {1.0, 2.0, 3.0}, out[3] = {7.0, 7.0, 7.0};
     struct Case {
         Kiv_Tail tail;
@@ -174,8 +158,13 @@ TEST(NormalTailProbability, BatchChecks) {
         EXPECT_STREQ(fail.message, c.message);
         EXPECT_EQ(out[0], 7.0);
     }
+    // An invalid tail: result 0 and the same report, scalar and batch.
     for (int tail : kiv::test::kInvalidTails) {
         KivError fail = kiv::test::quiet_record();
+        EXPECT_EQ(g01eac(static_cast<Kiv_Tail>(tail), 1.0, &fail), 0.0) << tail;
+        EXPECT_EQ(fail.code, NE_BAD_PARAM);
+        EXPECT_STREQ(fail.message, kiv::test::kBadTailMessage);
+        fail = kiv::test::quiet_record();
         g01eac_v(static_cast<Kiv_Tail>(tail), 3, x, out, &fail);
         EXPECT_EQ(fail.code, NE_BAD_PARAM);
         EXPECT_STREQ(fail.message, kiv::test::kBadTailMessage);

@@ -1,9 +1,14 @@
-// Helpers shared by the normal-distribution tests: a quiet record, the
-// invalid tails, and the lane sets to try.
+// Helpers shared by the error-function and normal-distribution tests: a
+// quiet record, the invalid tails, messages, bit-for-bit comparison and the
+// lane sets to try.
 #pragma once
 
+#include <bit>
+#include <cstdint>
 #include <string>
+#include <vector>
 
+#include "kernels/lanes.hpp"
 #include "kiv.h"
 
 namespace kiv::test {
@@ -30,6 +35,19 @@ inline std::string at_most_zero_message(const char *name, const char *value) {
 inline std::string at_least_one_message(const char *name, const char *value) {
     return std::string("NE_REAL_ARG_GE:\n  On entry, ") + name +
            " must not be greater than or equal to 1.0: " + name + " = " + value + ".";
+}
+
+// The same bits, or both NaN (a NaN's sign and payload are the processor's).
+inline bool same_bits(double a, double b) {
+    return (a != a && b != b) || std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+// Baseline, and AVX2 where the processor has it.
+inline std::vector<kiv::kernels::LaneSet> lane_sets() {
+    std::vector<kiv::kernels::LaneSet> sets = {kiv::kernels::LaneSet::baseline};
+    if (kiv::kernels::best_lane_set() == kiv::kernels::LaneSet::avx2)
+        sets.push_back(kiv::kernels::LaneSet::avx2);
+    return sets;
 }
 
 }  // namespace kiv::test
