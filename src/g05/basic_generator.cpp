@@ -52,10 +52,11 @@
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
-#if defined(__ELF__) && defined(__x86_64__)
-#define KIV_G05_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
-#else
-#define KIV_G05_VECTOR_CLONES
+// The refill has a baseline and an AVX2 version on x86-64, chosen on first
+// use (an explicit dispatch rather than an ifunc, whose resolver would run
+// before sanitizer runtimes are initialised).
+#if defined(__x86_64__) && defined(__GNUC__)
+#define KIV_G05_AVX2_REFILL 1
 #endif
 
 namespace kiv::g05 {
@@ -110,7 +111,8 @@ void set_default_state(ThreadRecords &records) {
 // only the low 15 bits of each are kept, which are exact), then the uniform
 // of each column. Rows are contiguous in the column index, so the loop runs
 // in 32-bit vector lanes; on x86-64 an AVX2 version is chosen at load time.
-KIV_G05_VECTOR_CLONES void advance_columns(BasicGeneratorState &state, double ceiling) {
+__attribute__((always_inline)) inline void advance_columns_body(BasicGeneratorState &state,
+                                                                double ceiling) {
     constexpr std::uint32_t a0 = 85, a1 = 3703, a2 = 6070, a3 = 6822;  // A^63, 15-bit pieces
     static_assert(a0 + (a1 << 15) + (std::uint64_t{a2} << 30) + (std::uint64_t{a3} << 45) ==
                   jump_multiplier);
@@ -134,6 +136,24 @@ KIV_G05_VECTOR_CLONES void advance_columns(BasicGeneratorState &state, double ce
         const double u = low * 0x1p-60 + high * 0x1p-30;
         state.buffer[column - 1] = u > ceiling ? ceiling : u;
     }
+}
+
+#if defined(KIV_G05_AVX2_REFILL)
+__attribute__((target("avx2"))) void advance_columns_avx2(BasicGeneratorState &state,
+                                                          double ceiling) {
+    advance_columns_body(state, ceiling);
+}
+#endif
+
+void advance_columns(BasicGeneratorState &state, double ceiling) {
+#if defined(KIV_G05_AVX2_REFILL)
+    static const bool has_avx2 = __builtin_cpu_supports("avx2");
+    if (has_avx2) {
+        advance_columns_avx2(state, ceiling);
+        return;
+    }
+#endif
+    advance_columns_body(state, ceiling);
 }
 
 }  // namespace
