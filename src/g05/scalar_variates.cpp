@@ -86,7 +86,7 @@ constexpr int normal_intervals = 40;
 // saves a loop of unpredictable length; any other carried value takes the
 // loop itself.
 constexpr std::uint64_t one_bits = 0x3ff0000000000000u;
-constexpr std::uint64_t half_bits = 0x3fe0000000000000u;
+[[maybe_unused]] constexpr std::uint64_t half_bits = 0x3fe0000000000000u;
 constexpr std::uint64_t last_exponent = 1022 - (normal_intervals - 1);  // i = 40 at and below
 
 inline bool carry_in_unit_interval(std::uint64_t bits) {
