@@ -13,15 +13,15 @@
 #include <stddef.h>
 
 #if defined(_WIN32) || defined(__CYGWIN__)
-#  if defined(KIV_BUILDING_LIBRARY) && !defined(KIV_STATIC)
-#    define KIV_API __declspec(dllexport)
-#  elif defined(KIV_STATIC) || defined(KIV_BUILDING_LIBRARY)
-#    define KIV_API
-#  else
-#    define KIV_API
-#  endif
+#if defined(KIV_BUILDING_LIBRARY) && !defined(KIV_STATIC)
+#define KIV_API __declspec(dllexport)
+#elif defined(KIV_STATIC) || defined(KIV_BUILDING_LIBRARY)
+#define KIV_API
 #else
-#  define KIV_API __attribute__((visibility("default")))
+#define KIV_API
+#endif
+#else
+#define KIV_API __attribute__((visibility("default")))
 #endif
 
 #ifdef __cplusplus
@@ -33,11 +33,11 @@ typedef int kiv_int;
 /* The error record. Owned by the caller; filled by every routine that
    takes one. */
 typedef struct {
-    int  code;          /* code of the last outcome; 0 (NE_NOERROR) on success */
-    int  print;         /* non-zero: errors and warnings are printed to stderr */
-    char message[512];  /* message text of the last outcome */
+    int code;          /* code of the last outcome; 0 (NE_NOERROR) on success */
+    int print;         /* non-zero: errors and warnings are printed to stderr */
+    char message[512]; /* message text of the last outcome */
     void (*handler)(const char *message, int code, const char *routine);
-    int  errnum;        /* failure number of an inner error-flag routine */
+    int errnum; /* failure number of an inner error-flag routine */
 } KivError;
 
 /* Error codes: the table of 726 codes, and three codes of their own. */
@@ -777,71 +777,57 @@ enum KivErrorCode {
    any int value passed by a caller is a valid value of the type (and is
    rejected by the routine's own check, not undefined). */
 #ifdef __cplusplus
-#  define KIV_ENUM_TYPE(tag) enum tag : int
+#define KIV_ENUM_TYPE(tag) enum tag : int
 #else
-#  define KIV_ENUM_TYPE(tag) enum tag
+#define KIV_ENUM_TYPE(tag) enum tag
 #endif
 
 /* Enumerations. Every member takes its value from one shared numbering,
    so no two members of any enumerations share a value. */
-typedef KIV_ENUM_TYPE(Kiv_Tail_tag) {
-    Kiv_LowerTail = 1329,
-    Kiv_UpperTail = 1330,
-    Kiv_TwoTailSignif = 1331,
-    Kiv_TwoTailConfid = 1332,
-    Kiv_TwoTail = 1333,
-    Kiv_Central = 1334
-} Kiv_Tail;
+typedef KIV_ENUM_TYPE(Kiv_Tail_tag){Kiv_LowerTail = 1329,     Kiv_UpperTail = 1330,
+                                    Kiv_TwoTailSignif = 1331, Kiv_TwoTailConfid = 1332,
+                                    Kiv_TwoTail = 1333,       Kiv_Central = 1334} Kiv_Tail;
 
-typedef KIV_ENUM_TYPE(Kiv_IncludeMean_tag) {
-    Kiv_MeanInclude = 1358,
-    Kiv_MeanZero = 1359
-} Kiv_IncludeMean;
+typedef KIV_ENUM_TYPE(Kiv_IncludeMean_tag){Kiv_MeanInclude = 1358,
+                                           Kiv_MeanZero = 1359} Kiv_IncludeMean;
 
-typedef KIV_ENUM_TYPE(Kiv_SumSquare_tag) {
-    Kiv_AboutMean = 1362,
-    Kiv_AboutZero = 1363
-} Kiv_SumSquare;
+typedef KIV_ENUM_TYPE(Kiv_SumSquare_tag){Kiv_AboutMean = 1362, Kiv_AboutZero = 1363} Kiv_SumSquare;
 
 /* Storage order of a data matrix (g02buc): 1500 and 1501 are used by no
    other member of the shared numbering. */
-typedef KIV_ENUM_TYPE(Kiv_OrderType_tag) {
-    Kiv_RowMajor = 1500,
-    Kiv_ColMajor = 1501
-} Kiv_OrderType;
+typedef KIV_ENUM_TYPE(Kiv_OrderType_tag){Kiv_RowMajor = 1500, Kiv_ColMajor = 1501} Kiv_OrderType;
 
 /* ---- runtime ------------------------------------------------------------ */
-KIV_API void   kiv_report_error(const char *message, int code, const char *routine,
-                                KivError *fail);
-KIV_API int    kiv_ifail_exit(int ifail, int ierror, const char *routine, int nrec,
-                              const char *message, int routine_len, int message_len);
+KIV_API void kiv_report_error(const char *message, int code, const char *routine, KivError *fail);
+KIV_API int kiv_ifail_exit(int ifail, int ierror, const char *routine, int nrec,
+                           const char *message, int routine_len, int message_len);
 /* Name of an error code ("NE_ALLOC_FAIL") or NULL when the code is unknown. */
 KIV_API const char *kiv_error_name(int code);
 
-KIV_API double x02ajc(void);  /* machine precision, 2^-53 (1 + 2^-52) */
-KIV_API double x02akc(void);  /* smallest normalised double, 2^-1022 */
-KIV_API double x02alc(void);  /* largest finite double */
+KIV_API double x02ajc(void); /* machine precision, 2^-53 (1 + 2^-52) */
+KIV_API double x02akc(void); /* smallest normalised double, 2^-1022 */
+KIV_API double x02alc(void); /* largest finite double */
 
-KIV_API void  *x04bbc(size_t size);
-KIV_API void  *x04bcc(void *block, size_t size);
-KIV_API void   x04bdc(void **block);
-KIV_API void   x04bay(const char *file, const char *text);
-KIV_API void   x04aaf(int flag, int *unit);
+KIV_API void *x04bbc(size_t size);
+KIV_API void *x04bcc(void *block, size_t size);
+KIV_API void x04bdc(void **block);
+KIV_API void x04bay(const char *file, const char *text);
+KIV_API void x04aaf(int flag, int *unit);
 
 /* ---- special functions ---------------------------------------------------- */
-KIV_API double s15abc(double x);  /* normal lower tail P(x) */
-KIV_API double s15acc(double x);  /* normal upper tail Q(x) */
-KIV_API double s15adc(double x);  /* erfc(x) */
-KIV_API double s15aec(double x);  /* erf(x) */
-KIV_API void   s14bac(double a, double x, double tol, double *p, double *q, KivError *fail);
-KIV_API double s14aac(double x, KivError *fail);  /* gamma function */
-KIV_API double s14abc(double x, KivError *fail);  /* log of the gamma function */
+KIV_API double s15abc(double x); /* normal lower tail P(x) */
+KIV_API double s15acc(double x); /* normal upper tail Q(x) */
+KIV_API double s15adc(double x); /* erfc(x) */
+KIV_API double s15aec(double x); /* erf(x) */
+KIV_API void s14bac(double a, double x, double tol, double *p, double *q, KivError *fail);
+KIV_API double s14aac(double x, KivError *fail); /* gamma function */
+KIV_API double s14abc(double x, KivError *fail); /* log of the gamma function */
 
 /* Batch forms: element i equals the scalar routine's result bit for bit;
    one report per call. */
-KIV_API void   s15adc_v(int n, const double x[], double out[]);
-KIV_API void   g01eac_v(Kiv_Tail tail, int n, const double x[], double out[], KivError *fail);
-KIV_API void   g01fac_v(Kiv_Tail tail, int n, const double p[], double out[], KivError *fail);
+KIV_API void s15adc_v(int n, const double x[], double out[]);
+KIV_API void g01eac_v(Kiv_Tail tail, int n, const double x[], double out[], KivError *fail);
+KIV_API void g01fac_v(Kiv_Tail tail, int n, const double p[], double out[], KivError *fail);
 
 /* ---- distributions and descriptive statistics ---------------------------- */
 KIV_API double g01eac(Kiv_Tail tail, double x, KivError *fail);
@@ -849,49 +835,48 @@ KIV_API double g01fac(Kiv_Tail tail, double p, KivError *fail);
 KIV_API double g01cec(double p, KivError *fail);
 KIV_API double g01ecc(Kiv_Tail tail, double x, double df, KivError *fail);
 KIV_API double g01efc(Kiv_Tail tail, double g, double a, double b, KivError *fail);
-KIV_API void   g01aac(int n, const double x[], const double wt[], int *nvalid,
-                      double *xmean, double *xsd, double *xskew, double *xkurt,
-                      double *xmin, double *xmax, double *wsum, KivError *fail);
+KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, double *xmean,
+                    double *xsd, double *xskew, double *xkurt, double *xmin, double *xmax,
+                    double *wsum, KivError *fail);
 
 /* ---- random numbers -------------------------------------------------------- */
 KIV_API double g05cac(void);
-KIV_API void   g05caz(int *code, int **pieces, double **carries, double **buffer,
-                      double **scale);
-KIV_API void   g05cbc(int seed);
-KIV_API void   g05ccc(void);
-KIV_API void   g05cfc(int istate[9], double xstate[4]);
-KIV_API void   g05cgc(const int istate[9], const double xstate[4], KivError *fail);
-KIV_API long   x05aac(void);
+KIV_API void g05caz(int *code, int **pieces, double **carries, double **buffer, double **scale);
+KIV_API void g05cbc(int seed);
+KIV_API void g05ccc(void);
+KIV_API void g05cfc(int istate[9], double xstate[4]);
+KIV_API void g05cgc(const int istate[9], const double xstate[4], KivError *fail);
+KIV_API long x05aac(void);
 KIV_API double g05dac(double a, double b);
 KIV_API double g05dbc(double a);
 KIV_API double g05ddc(double a, double b);
-KIV_API int    g05dyc(int i, int j);
+KIV_API int g05dyc(int i, int j);
 KIV_API double g05kac(int igen, int iseed[4]);
-KIV_API void   g05kbc(int *igen, int iseed[4]);
-KIV_API void   g05kcc(int *igen, int iseed[4]);
+KIV_API void g05kbc(int *igen, int iseed[4]);
+KIV_API void g05kcc(int *igen, int iseed[4]);
 
 /* ---- correlation ------------------------------------------------------------ */
-KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[],
-                    const int sobs[], double corr[], int tdc, KivError *fail);
-KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int incx,
-                    double *sw, double xbar[], double c[], KivError *fail);
-KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m,
-                    const double x[], int pdx, const double wt[], double *sw,
-                    double wmean[], double c[], KivError *fail);
+KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[], const int sobs[],
+                    double corr[], int tdc, KivError *fail);
+KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int incx, double *sw,
+                    double xbar[], double c[], KivError *fail);
+KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const double x[],
+                    int pdx, const double wt[], double *sw, double wmean[], double c[],
+                    KivError *fail);
 KIV_API void g02bwc(int m, double r[], KivError *fail);
-KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[],
-                    const double wt[], double *sw, double wmean[], double std[],
-                    double r[], int tdr, double v[], int tdv, KivError *fail);
-KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr,
-                    double p[], int tdp, KivError *fail);
+KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[], const double wt[],
+                    double *sw, double wmean[], double std[], double r[], int tdr, double v[],
+                    int tdv, KivError *fail);
+KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr, double p[],
+                    int tdp, KivError *fail);
 
 /* ---- time series -------------------------------------------------------------- */
-KIV_API void g13aac(const double x[], int nx, int d, int ds, int s, double xd[],
-                    int *nxd, KivError *fail);
-KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv,
-                    double r[], double *stat, KivError *fail);
-KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[],
-                    double ar[], int *nvl, KivError *fail);
+KIV_API void g13aac(const double x[], int nx, int d, int ds, int s, double xd[], int *nxd,
+                    KivError *fail);
+KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv, double r[],
+                    double *stat, KivError *fail);
+KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[], double ar[], int *nvl,
+                    KivError *fail);
 
 #ifdef __cplusplus
 }

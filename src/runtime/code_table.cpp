@@ -6,6 +6,7 @@
 
 namespace kiv::rt {
 
+// clang-format off
 const CodeEntry kCodeTable[kCodeTableSize] = {
     {"NE_NOERROR", "NE_NOERROR:\n  No error."}, /* 0 */
     {"NE_CODE_NOT_SET", "NE_CODE_NOT_SET:\n  Error code has not been set by the last function called."}, /* 1 */
@@ -734,5 +735,6 @@ const CodeEntry kCodeTable[kCodeTableSize] = {
     {"NE_INTERNAL_WORKSPACE", "NE_INTERNAL_WORKSPACE:\n  Error: Internal workspace."}, /* 724 */
     {"NE_TOO_CLOSE_INTEGER", "NE_TOO_CLOSE_INTEGER:\n  Error: Too close integer."}, /* 725 */
 };
+// clang-format on
 
 }  // namespace kiv::rt

@@ -13,8 +13,14 @@
 
 extern "C" {
 
-KIV_API double x02ajc(void) { return std::bit_cast<double>(std::uint64_t{0x3CA0000000000001}); }
-KIV_API double x02akc(void) { return std::bit_cast<double>(std::uint64_t{0x0010000000000000}); }
-KIV_API double x02alc(void) { return std::bit_cast<double>(std::uint64_t{0x7FEFFFFFFFFFFFFF}); }
+KIV_API double x02ajc(void) {
+    return std::bit_cast<double>(std::uint64_t{0x3CA0000000000001});
+}
+KIV_API double x02akc(void) {
+    return std::bit_cast<double>(std::uint64_t{0x0010000000000000});
+}
+KIV_API double x02alc(void) {
+    return std::bit_cast<double>(std::uint64_t{0x7FEFFFFFFFFFFFFF});
+}
 
 }  // extern "C"

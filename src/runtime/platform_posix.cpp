@@ -62,10 +62,18 @@ FileLock &allocator_lock() {
 
 void ensure_console() {}
 
-IoLock::IoLock() { io_lock().lock(); }
-IoLock::~IoLock() { io_lock().unlock(); }
-AllocatorLock::AllocatorLock() { allocator_lock().lock(); }
-AllocatorLock::~AllocatorLock() { allocator_lock().unlock(); }
+IoLock::IoLock() {
+    io_lock().lock();
+}
+IoLock::~IoLock() {
+    io_lock().unlock();
+}
+AllocatorLock::AllocatorLock() {
+    allocator_lock().lock();
+}
+AllocatorLock::~AllocatorLock() {
+    allocator_lock().unlock();
+}
 
 long calendar_seconds() {
     const std::time_t now = std::time(nullptr);

@@ -1,11 +1,11 @@
 // Operating-system services on Windows: the output console, named mutexes
 // shared by all processes of the machine, and the clocks.
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 #include <cstdio>
 #include <ctime>
-#include <fcntl.h>
-#include <io.h>
 
 #include "runtime/platform.hpp"
 
@@ -67,10 +67,18 @@ void ensure_console() {
     if (guard != nullptr) ReleaseMutex(guard);
 }
 
-IoLock::IoLock() { acquire(io_mutex()); }
-IoLock::~IoLock() { release(io_mutex()); }
-AllocatorLock::AllocatorLock() { acquire(allocator_mutex()); }
-AllocatorLock::~AllocatorLock() { release(allocator_mutex()); }
+IoLock::IoLock() {
+    acquire(io_mutex());
+}
+IoLock::~IoLock() {
+    release(io_mutex());
+}
+AllocatorLock::AllocatorLock() {
+    acquire(allocator_mutex());
+}
+AllocatorLock::~AllocatorLock() {
+    release(allocator_mutex());
+}
 
 long calendar_seconds() {
     const std::time_t now = std::time(nullptr);

@@ -6,6 +6,8 @@
 // a message into KivError::message is bounded (511 characters and the
 // terminator); an unknown code reported without a message gets a generic
 // text naming the number instead of reading outside the table.
+#include "runtime/report.hpp"
+
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -14,7 +16,6 @@
 #include "kiv.h"
 #include "runtime/code_table.hpp"
 #include "runtime/platform.hpp"
-#include "runtime/report.hpp"
 
 namespace kiv::rt {
 
@@ -41,12 +42,18 @@ struct EnumMember {
 };
 
 constexpr EnumMember kEnumMembers[] = {
-    {Kiv_LowerTail, "Kiv_LowerTail"},     {Kiv_UpperTail, "Kiv_UpperTail"},
-    {Kiv_TwoTailSignif, "Kiv_TwoTailSignif"}, {Kiv_TwoTailConfid, "Kiv_TwoTailConfid"},
-    {Kiv_TwoTail, "Kiv_TwoTail"},         {Kiv_Central, "Kiv_Central"},
-    {Kiv_MeanInclude, "Kiv_MeanInclude"}, {Kiv_MeanZero, "Kiv_MeanZero"},
-    {Kiv_AboutMean, "Kiv_AboutMean"},     {Kiv_AboutZero, "Kiv_AboutZero"},
-    {Kiv_RowMajor, "Kiv_RowMajor"},       {Kiv_ColMajor, "Kiv_ColMajor"},
+    {Kiv_LowerTail, "Kiv_LowerTail"},
+    {Kiv_UpperTail, "Kiv_UpperTail"},
+    {Kiv_TwoTailSignif, "Kiv_TwoTailSignif"},
+    {Kiv_TwoTailConfid, "Kiv_TwoTailConfid"},
+    {Kiv_TwoTail, "Kiv_TwoTail"},
+    {Kiv_Central, "Kiv_Central"},
+    {Kiv_MeanInclude, "Kiv_MeanInclude"},
+    {Kiv_MeanZero, "Kiv_MeanZero"},
+    {Kiv_AboutMean, "Kiv_AboutMean"},
+    {Kiv_AboutZero, "Kiv_AboutZero"},
+    {Kiv_RowMajor, "Kiv_RowMajor"},
+    {Kiv_ColMajor, "Kiv_ColMajor"},
 };
 
 constexpr std::size_t kMessageCapacity = sizeof(KivError{}.message);
@@ -129,18 +136,18 @@ std::size_t bounded_length(const char *text, int length) {
 
 extern "C" {
 
-KIV_API const char *kiv_error_name(int code) { return kiv::rt::code_name(code); }
+KIV_API const char *kiv_error_name(int code) {
+    return kiv::rt::code_name(code);
+}
 
-KIV_API void kiv_report_error(const char *message, int code, const char *routine,
-                              KivError *fail) {
+KIV_API void kiv_report_error(const char *message, int code, const char *routine, KivError *fail) {
     char generic[96];
     if (routine == nullptr) routine = "";
     if (message == nullptr) {
         message = kiv::rt::code_template(code);
         if (message == nullptr) {
             std::snprintf(generic, sizeof generic,
-                          "NE_UNKNOWN_CODE:\n  Error code %d is not known to this library.",
-                          code);
+                          "NE_UNKNOWN_CODE:\n  Error code %d is not known to this library.", code);
             message = generic;
         }
     }

@@ -20,7 +20,9 @@ extern std::atomic<bool> refuse_calls;
 
 // The licence check that every top-level routine runs first. This library
 // admits every call; tests can make it refuse (see testing.hpp).
-inline bool licence_check() { return !detail::refuse_calls.load(std::memory_order_relaxed); }
+inline bool licence_check() {
+    return !detail::refuse_calls.load(std::memory_order_relaxed);
+}
 
 inline void clear_code(KivError *fail) {
     if (fail != nullptr) fail->code = 0;

@@ -20,7 +20,9 @@ bool allocation_refused() {
 }  // namespace
 
 namespace kiv::rt::testing {
-void fail_allocations_after(long successes) { allocations_before_failure = successes; }
+void fail_allocations_after(long successes) {
+    allocations_before_failure = successes;
+}
 }  // namespace kiv::rt::testing
 
 extern "C" {

@@ -23,8 +23,7 @@ inline std::size_t checked_bytes(std::size_t count, std::size_t size) {
 // whose byte size overflows, gives 0.
 inline std::size_t checked_bytes_signed(long long count, std::size_t size) {
     if (count < 0) return 0;
-    if (static_cast<unsigned long long>(count) > std::numeric_limits<std::size_t>::max())
-        return 0;
+    if (static_cast<unsigned long long>(count) > std::numeric_limits<std::size_t>::max()) return 0;
     return checked_bytes(static_cast<std::size_t>(count), size);
 }
 

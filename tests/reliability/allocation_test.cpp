@@ -16,7 +16,9 @@
 
 // The huge requests below must come back from the heap as null (as they do
 // from the C library's malloc) rather than stop AddressSanitizer.
-extern "C" const char *__asan_default_options() { return "allocator_may_return_null=1"; }
+extern "C" const char *__asan_default_options() {
+    return "allocator_may_return_null=1";
+}
 
 namespace kiv::reliability {
 namespace {

@@ -38,12 +38,11 @@ TEST(LicenceRefusal, RefusedCallsWriteNothing) {
         // running sums, g02bwc's matrix) are not outputs of the refused call.
         const bool prepares_inputs =
             std::strcmp(call.routine, "g02btc") == 0 || std::strcmp(call.routine, "g02bwc") == 0;
-        const bool returns_value = std::strncmp(call.routine, "s14a", 4) == 0 ||
-                                   std::strcmp(call.routine, "g01eac") == 0 ||
-                                   std::strcmp(call.routine, "g01fac") == 0 ||
-                                   std::strcmp(call.routine, "g01cec") == 0 ||
-                                   std::strcmp(call.routine, "g01ecc") == 0 ||
-                                   std::strcmp(call.routine, "g01efc") == 0;
+        const bool returns_value =
+            std::strncmp(call.routine, "s14a", 4) == 0 ||
+            std::strcmp(call.routine, "g01eac") == 0 || std::strcmp(call.routine, "g01fac") == 0 ||
+            std::strcmp(call.routine, "g01cec") == 0 || std::strcmp(call.routine, "g01ecc") == 0 ||
+            std::strcmp(call.routine, "g01efc") == 0;
         if (!prepares_inputs) {
             EXPECT_TRUE(scratch.untouched(returns_value)) << call.routine;
         }

@@ -16,7 +16,9 @@
 
 namespace {
 
-std::uint32_t word(double u) { return static_cast<std::uint32_t>(std::ldexp(u, 32)); }
+std::uint32_t word(double u) {
+    return static_cast<std::uint32_t>(std::ldexp(u, 32));
+}
 
 }  // namespace
 
