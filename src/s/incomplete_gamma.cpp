@@ -47,23 +47,29 @@
 //     Mathematical Functions (1964), 6.5.29, 6.5.31, 7.1.14.
 //
 // Accuracy measured against MPFR: see docs/gamma.md.
+#include "s/incomplete_gamma.hpp"
+
 #include <algorithm>
 #include <cmath>
 
+#include "kernels/exp_log.hpp"
 #include "kernels/gamma_kernels.hpp"
 #include "kernels/gamma_tables.hpp"
 #include "kiv.h"
 #include "runtime/report.hpp"
+#include "s/erf.hpp"
 
 namespace {
 
 using namespace kiv::kernels;
+using kiv::special::kIncompleteGammaIterations;
 
-constexpr int kIterationLimit = 600;
+constexpr int kIterationLimit = kIncompleteGammaIterations;
 constexpr double kTemmeMinimumA = 20.0;
 constexpr double kTemmeBand = 0.4;
 constexpr double kLongExponent = 25.0;  // exponents beyond this go through long double
 constexpr double kUnderflowExponent = 746.0;
+constexpr double kLooseTolerance = 1e-10;  // above this, no long double is needed
 
 struct Tails {
     double p = 0.0;
@@ -76,7 +82,7 @@ double exp_negative(long double exponent) {
     if (exponent > kUnderflowExponent) return 0.0;
     const double hi = static_cast<double>(exponent);
     const double lo = static_cast<double>(exponent - hi);
-    return std::exp(-hi) * (1.0 - lo);
+    return kiv::kernels::exp(-hi) * (1.0 - lo);
 }
 
 // ln(1 + z) - z in long double, |z| < 0.6 (the series of log1pmx).
@@ -97,7 +103,7 @@ long double log1pmx_long(long double z) {
 // phi(x/a) = x/a - 1 - ln(x/a) >= 0, with mu = (x - a)/a.
 double phi_of(double a, double x, double mu) {
     if (mu > -0.6 && mu < 1.0) return -log1pmx(mu);
-    return mu - std::log(x / a);
+    return mu - kiv::kernels::log(x / a);
 }
 
 long double a_phi_long(double a, double x) {
@@ -110,38 +116,50 @@ long double a_phi_long(double a, double x) {
 double log_gamma_1p_any(double a) {
     if (a <= 0.5) return log_gamma_1p(a);
     if (a <= 1.5) return log_gamma_2p(a - 1.0);
-    return log_gamma_positive(a) + std::log(a);
+    return log_gamma_positive(a) + kiv::kernels::log(a);
 }
 
-// Gamma(1 + a) for 0 < a < 10.
+// Gamma(1 + a) for 0 < a < 10: a (a - 1) ... (r + 1) Gamma(1 + r), r in
+// (1/2, 3/2]; the factors a - k are exact, so the product rounds at most
+// nine times.
 double gamma_1p(double a) {
-    if (a <= 0.5) return std::exp(log_gamma_1p(a));
-    if (a <= 1.5) return std::exp(log_gamma_2p(a - 1.0));
-    return a * gamma_positive(a);
+    if (a <= 0.5) return kiv::kernels::exp(log_gamma_1p(a));
+    double product = 1.0;
+    double r = a;
+    while (r > 1.5) {
+        product *= r;
+        r -= 1.0;
+    }
+    return product * kiv::kernels::exp(log_gamma_2p(r - 1.0));
 }
 
 // x^a e^-x / Gamma(a + 1), accurate relative to its value; 0 on underflow.
-double series_prefactor(double a, double x) {
+// The exponent's rounding error, relative to its size (up to 746), becomes
+// the relative error of the result: below 25 (a result above 1e-11), or when
+// epsilon is loose, double suffices; beyond, the exponent is formed in long
+// double.
+double series_prefactor(double a, double x, double epsilon) {
+    const bool loose = epsilon > kLooseTolerance;
     if (a >= 10.0) {
         const double mu = (x - a) / a;
         const double exponent = a * phi_of(a, x, mu) + stirling_correction(a);
-        const double scale = 1.0 / std::sqrt(2.0 * kPi * a);
-        if (!(exponent > kLongExponent)) return scale * std::exp(-exponent);
+        if (!(exponent > kLongExponent) || (loose && exponent < kUnderflowExponent))
+            return kiv::kernels::exp(-exponent) / std::sqrt(2.0 * kPi * a);
         if (exponent > 2.0 * kUnderflowExponent) return 0.0;
-        return scale * exp_negative(a_phi_long(a, x) + stirling_correction(a));
+        return exp_negative(a_phi_long(a, x) + stirling_correction(a)) / std::sqrt(2.0 * kPi * a);
     }
-    const double log_x = std::log(x);
-    const double estimate = a * log_x - x;
-    if (x < 700.0 && std::fabs(a * log_x) < 700.0 && estimate > -kLongExponent)
-        return std::pow(x, a) * std::exp(-x) / gamma_1p(a);
-    if (estimate < -2.0 * kUnderflowExponent) return 0.0;
+    const double exponent = a * kiv::kernels::log(x) - x;
+    if (exponent > -kLongExponent && exponent < 700.0)
+        return kiv::kernels::exp(exponent) / gamma_1p(a);
+    if (exponent < -2.0 * kUnderflowExponent) return 0.0;
+    if (loose && exponent < 700.0) return kiv::kernels::exp(exponent - log_gamma_1p_any(a));
     return exp_negative(x - a * std::log(static_cast<long double>(x)) + log_gamma_1p_any(a));
 }
 
 // P by the power series.
 Tails power_series(double a, double x, double epsilon) {
     Tails result;
-    const double prefactor = series_prefactor(a, x);
+    const double prefactor = series_prefactor(a, x, epsilon);
     if (prefactor == 0.0) return result;
     double term = 1.0;
     double sum = 1.0;
@@ -161,7 +179,7 @@ Tails power_series(double a, double x, double epsilon) {
 // Q by Legendre's continued fraction, forward recurrence.
 Tails continued_fraction(double a, double x, double epsilon) {
     Tails result{1.0, 0.0, true};
-    const double prefactor = a * series_prefactor(a, x);
+    const double prefactor = a * series_prefactor(a, x, epsilon);
     if (prefactor == 0.0) return result;
     // Successive convergents may differ by less than the remaining error;
     // a looser request is therefore tightened sixteenfold.
@@ -243,7 +261,7 @@ Tails temme(double a, double x, double epsilon) {
     double small;  // Q when x >= a, P when x < a
     const double sign = mu >= 0.0 ? 1.0 : -1.0;
     if (y < 6.0) {
-        small = 0.5 * std::erfc(y) + sign * std::exp(-a_phi) * scale * sum;
+        small = 0.5 * kiv::special::erfc_value(y) + sign * kiv::kernels::exp(-a_phi) * scale * sum;
     } else {
         const double factor = exp_negative(a_phi_long(a, x));
         small = factor * (0.5 * scaled_erfc_large(y) + sign * scale * sum);
@@ -259,7 +277,7 @@ Tails temme(double a, double x, double epsilon) {
     return result;
 }
 
-Tails incomplete_gamma(double a, double x, double epsilon) {
+Tails tails_of(double a, double x, double epsilon) {
     if (x == 0.0) return Tails{0.0, 1.0, true};
     if (std::isinf(x)) return Tails{1.0, 0.0, true};
     if (std::isinf(a)) return Tails{0.0, 1.0, true};
@@ -281,33 +299,45 @@ Tails incomplete_gamma(double a, double x, double epsilon) {
 
 }  // namespace
 
+namespace kiv::special {
+
+IncompleteGammaStatus incomplete_gamma(double a, double x, double tol, double *p, double *q) {
+    if (!(a > 0.0)) return IncompleteGammaStatus::a_not_positive;
+    if (!(x >= 0.0)) return IncompleteGammaStatus::x_negative;
+    if (std::isinf(a) && std::isinf(x)) return IncompleteGammaStatus::both_infinite;
+    constexpr double machine = 0x1.0000000000001p-53;  // x02ajc()
+    const double epsilon = tol > machine ? std::min(tol, 1e-3) : machine;
+    const Tails tails = tails_of(a, x, epsilon);
+    *p = tails.p;
+    *q = tails.q;
+    return tails.converged ? IncompleteGammaStatus::ok : IncompleteGammaStatus::not_converged;
+}
+
+}  // namespace kiv::special
+
 extern "C" {
 
 KIV_API void s14bac(double a, double x, double tol, double *p, double *q, KivError *fail) {
     using namespace kiv::rt;
+    using kiv::special::IncompleteGammaStatus;
     if (!licence_check()) return;
     clear_code(fail);
-    if (!(a > 0.0)) {
-        report_template(fail, "s14bac", NE_REAL_ARG_LE, "a", "0.0", "a", a);
-        return;
-    }
-    if (!(x >= 0.0)) {
-        report_template(fail, "s14bac", NE_REAL_ARG_LT, "x", "0.0", "x", x);
-        return;
-    }
-    if (std::isinf(a) && std::isinf(x)) {
-        report_template(fail, "s14bac", NE_REAL_2, "a", a, "x", x,
-                        "a and x must not both be infinite");
-        return;
-    }
-    const double machine = x02ajc();
-    const double epsilon = tol > machine ? std::min(tol, 1e-3) : machine;
-    const Tails tails = incomplete_gamma(a, x, epsilon);
-    *p = tails.p;
-    *q = tails.q;
-    if (!tails.converged) {
-        report_template(fail, "s14bac", NE_ALG_NOT_CONV, static_cast<long>(kIterationLimit));
-        return;
+    switch (kiv::special::incomplete_gamma(a, x, tol, p, q)) {
+        case IncompleteGammaStatus::a_not_positive:
+            report_template(fail, "s14bac", NE_REAL_ARG_LE, "a", "0.0", "a", a);
+            return;
+        case IncompleteGammaStatus::x_negative:
+            report_template(fail, "s14bac", NE_REAL_ARG_LT, "x", "0.0", "x", x);
+            return;
+        case IncompleteGammaStatus::both_infinite:
+            report_template(fail, "s14bac", NE_REAL_2, "a", a, "x", x,
+                            "a and x must not both be infinite");
+            return;
+        case IncompleteGammaStatus::not_converged:
+            report_template(fail, "s14bac", NE_ALG_NOT_CONV, static_cast<long>(kIterationLimit));
+            return;
+        case IncompleteGammaStatus::ok:
+            break;
     }
     report_success(fail, "s14bac");
 }
