@@ -2,7 +2,7 @@
 //
 //   log1pmx(z) = ln(1 + z) - z. With t = z / (2 + z), ln(1 + z) = 2 atanh t and
 //     z - 2t = z t, so ln(1 + z) - z = t (2 t^2 sum_k t^(2k) / (2k + 3) - z): no
-//     cancellation for -0.6 <= z <= 1 (|t| <= 0.43), 7, 15 or 24 terms by |t|;
+//     cancellation for -0.6 <= z <= 1 (|t| <= 0.43), 8, 16 or 24 terms by |t|;
 //     direct log1p(z) - z outside.
 //   ln Gamma(2 + z), |z| <= 1/2: the Taylor series (1 - g) z +
 //     sum_{k>=2} (-1)^k (zeta(k) - 1) z^k / k (Abramowitz & Stegun 6.1.33 moved
@@ -69,9 +69,8 @@ double log1pmx(double z) {
     const double t2 = t * t;
     // sum_k t^(2k) / (2k + 3) by Horner's rule, cut where the next term
     // t2^n / (2n + 3) falls below 2^-60 of the sum (1/3 or more).
-    const int terms = t2 <= 0.0025 ? 7 : t2 <= 0.0625 ? 15 : 24;
-    double sum = kOddReciprocals[terms - 1];
-    for (int k = terms - 2; k >= 0; --k) sum = sum * t2 + kOddReciprocals[k];
+    const std::size_t terms = t2 <= 0.0025 ? 8 : t2 <= 0.0625 ? 16 : 24;
+    const double sum = polynomial_four_chains(t2, kOddReciprocals.data(), terms);
     return t * (2.0 * t2 * sum - z);
 }
 
@@ -87,10 +86,7 @@ double stirling_correction(double a) {
     using gamma_tables::kStirling;
     const double inverse = 1.0 / a;
     if (a > 1e8) return kStirling[0] * inverse;
-    const double inverse2 = inverse * inverse;
-    double sum = kStirling[9];
-    for (int k = 8; k >= 0; --k) sum = sum * inverse2 + kStirling[k];
-    return sum * inverse;
+    return polynomial_four_chains(inverse * inverse, kStirling) * inverse;
 }
 
 long double sin_pi(double x) {

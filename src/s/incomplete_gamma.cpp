@@ -238,6 +238,13 @@ double scaled_erfc_large(double y) {
     return 1.0 / (tail * 1.7724538509055160273);
 }
 
+// erfc(y), 0 <= y < 6: the expansion of s15adc (e^(-y^2) times a polynomial in
+// t = (y - 3.75)/(y + 3.75)), summed in four chains.
+double erfc_positive(double y) {
+    const double t = 1.0 - 7.5 / (y + 3.75);
+    return exp_neg_square(y) * polynomial_four_chains(t, kiv::special::kErfcSeries);
+}
+
 // Temme's expansion for a >= 20, |mu| <= 0.4.
 Tails temme(double a, double x, double epsilon) {
     using namespace kiv::kernels::gamma_tables;
@@ -247,10 +254,9 @@ Tails temme(double a, double x, double epsilon) {
     double sum = 0.0;
     double inverse_power = 1.0;
     for (int k = 0; k < kTemmeOrders; ++k) {
-        double coefficient = kTemme[k][kTemmeLength[k] - 1];
-        for (int j = kTemmeLength[k] - 2; j >= 0; --j)
-            coefficient = coefficient * eta + kTemme[k][j];
-        const double term = coefficient * inverse_power;
+        const double term =
+            polynomial_four_chains(eta, kTemme[k], static_cast<std::size_t>(kTemmeLength[k])) *
+            inverse_power;
         sum += term;
         if (k > 0 && std::fabs(term) <= epsilon * std::fabs(sum)) break;
         inverse_power /= a;
@@ -261,7 +267,7 @@ Tails temme(double a, double x, double epsilon) {
     double small;  // Q when x >= a, P when x < a
     const double sign = mu >= 0.0 ? 1.0 : -1.0;
     if (y < 6.0) {
-        small = 0.5 * kiv::special::erfc_value(y) + sign * kiv::kernels::exp(-a_phi) * scale * sum;
+        small = 0.5 * erfc_positive(y) + sign * kiv::kernels::exp(-a_phi) * scale * sum;
     } else {
         const double factor = exp_negative(a_phi_long(a, x));
         small = factor * (0.5 * scaled_erfc_large(y) + sign * scale * sum);
