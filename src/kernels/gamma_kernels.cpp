@@ -46,11 +46,7 @@ namespace {
 
 // ln Gamma(2 + z) - (1 - g) z = z^2 sum_k kZetaSeries[k] z^k.
 double zeta_tail(double z) {
-    using gamma_tables::kZetaSeries;
-    constexpr int count = sizeof kZetaSeries / sizeof kZetaSeries[0];
-    double sum = kZetaSeries[count - 1];
-    for (int k = count - 2; k >= 0; --k) sum = sum * z + kZetaSeries[k];
-    return sum * z * z;
+    return polynomial_four_chains(z, gamma_tables::kZetaSeries) * z * z;
 }
 
 // 1 / (2k + 3), k = 0, 1, ...: the series of log1pmx (each correctly

@@ -184,21 +184,31 @@ Tails continued_fraction(double a, double x, double epsilon) {
     // Successive convergents may differ by less than the remaining error;
     // a looser request is therefore tightened sixteenfold.
     const double step_tolerance = std::max(epsilon / 16.0, 0x1p-53);
+    // Two steps of the recurrence y_n = b_n y_(n-1) + a_n y_(n-2) at a time,
+    //   y_n     = b_n y_(n-1) + a_n y_(n-2),
+    //   y_(n+1) = (b_(n+1) b_n + a_(n+1)) y_(n-1) + b_(n+1) a_n y_(n-2),
+    // both from the same pair, so the loop's dependency chain is one
+    // multiplication and one addition per two steps; convergents two apart
+    // are compared.
     double numerator_old = 1.0;
     double numerator = x + 1.0 - a;
     double denominator_old = 0.0;
     double denominator = 1.0;
     double value = numerator;
     int n = 1;
-    for (; n <= kIterationLimit; ++n) {
+    for (; n <= kIterationLimit; n += 2) {
         const double step_a = n * (a - n);
         const double step_b = x + (2 * n + 1) - a;
-        const double next_numerator = step_b * numerator + step_a * numerator_old;
-        const double next_denominator = step_b * denominator + step_a * denominator_old;
-        numerator_old = numerator;
-        numerator = next_numerator;
-        denominator_old = denominator;
-        denominator = next_denominator;
+        const double next_a = (n + 1) * (a - (n + 1));
+        const double next_b = step_b + 2.0;
+        const double combined_b = next_b * step_b + next_a;
+        const double combined_a = next_b * step_a;
+        const double numerator_mid = step_b * numerator + step_a * numerator_old;
+        const double denominator_mid = step_b * denominator + step_a * denominator_old;
+        numerator = combined_b * numerator + combined_a * numerator_old;
+        denominator = combined_b * denominator + combined_a * denominator_old;
+        numerator_old = numerator_mid;
+        denominator_old = denominator_mid;
         if (std::fabs(numerator) > 0x1p500 || std::fabs(denominator) > 0x1p500) {
             numerator *= 0x1p-500;
             numerator_old *= 0x1p-500;
@@ -238,11 +248,11 @@ double scaled_erfc_large(double y) {
     return 1.0 / (tail * 1.7724538509055160273);
 }
 
-// erfc(y), 0 <= y < 6: the expansion of s15adc (e^(-y^2) times a polynomial in
-// t = (y - 3.75)/(y + 3.75)), summed in four chains.
-double erfc_positive(double y) {
+// erfc(y) e^(y^2), 0 <= y < 6: the expansion of s15adc (e^(-y^2) times a
+// polynomial in t = (y - 3.75)/(y + 3.75)), summed in four chains.
+double erfc_scaled(double y) {
     const double t = 1.0 - 7.5 / (y + 3.75);
-    return exp_neg_square(y) * polynomial_four_chains(t, kiv::special::kErfcSeries);
+    return polynomial_four_chains(t, kiv::special::kErfcSeries);
 }
 
 // Temme's expansion for a >= 20, |mu| <= 0.4.
@@ -251,6 +261,7 @@ Tails temme(double a, double x, double epsilon) {
     const double mu = (x - a) / a;
     const double phi = -log1pmx(mu);
     const double eta = std::copysign(std::sqrt(2.0 * phi), mu);
+    const double inverse_a = 1.0 / a;
     double sum = 0.0;
     double inverse_power = 1.0;
     for (int k = 0; k < kTemmeOrders; ++k) {
@@ -259,7 +270,7 @@ Tails temme(double a, double x, double epsilon) {
             inverse_power;
         sum += term;
         if (k > 0 && std::fabs(term) <= epsilon * std::fabs(sum)) break;
-        inverse_power /= a;
+        inverse_power *= inverse_a;
     }
     const double a_phi = a * phi;
     const double y = std::sqrt(a_phi);
@@ -267,9 +278,12 @@ Tails temme(double a, double x, double epsilon) {
     double small;  // Q when x >= a, P when x < a
     const double sign = mu >= 0.0 ? 1.0 : -1.0;
     if (y < 6.0) {
-        small = 0.5 * erfc_positive(y) + sign * kiv::kernels::exp(-a_phi) * scale * sum;
+        // erfc(y) = e^(-y^2) R(y): one exponential serves both terms.
+        const double factor = kiv::kernels::exp(-a_phi);
+        small = factor * (0.5 * erfc_scaled(y) + sign * scale * sum);
     } else {
-        const double factor = exp_negative(a_phi_long(a, x));
+        const double factor = epsilon > kLooseTolerance ? kiv::kernels::exp(-a_phi)
+                                                        : exp_negative(a_phi_long(a, x));
         small = factor * (0.5 * scaled_erfc_large(y) + sign * scale * sum);
     }
     Tails result;

@@ -4,6 +4,7 @@
 #include <mpfr.h>
 
 #include <cmath>
+#include <cstdio>
 #include <vector>
 
 #include "kiv.h"
@@ -77,6 +78,8 @@ void check_grid(double tol, double bound) {
         }
     }
     EXPECT_GT(compared, 1000);
+    std::printf("s14bac tol = %g: worst relative error %.3g at a = %.17g, x = %.17g\n", tol, worst,
+                worst_a, worst_x);
     EXPECT_LE(worst, bound) << "worst at a = " << worst_a << ", x = " << worst_x;
 }
 
