@@ -23,13 +23,20 @@ inline constexpr long double kHalfLogTwoPiLong = 0.91893853320467274178032973640
 inline double polynomial_four_chains(double x, const double *c, std::size_t n) {
     const double x2 = x * x;
     const double x4 = x2 * x2;
-    double s0 = 0.0, s1 = 0.0, s2 = 0.0, s3 = 0.0;
-    for (std::size_t b = (n + 3) & ~std::size_t{3}; b > 0;) {
+    // The top block of n mod 4 coefficients starts the chains; full blocks
+    // follow without tests.
+    std::size_t b = n & ~std::size_t{3};
+    const std::size_t top = n - b;
+    double s0 = top > 0 ? c[b] : 0.0;
+    double s1 = top > 1 ? c[b + 1] : 0.0;
+    double s2 = top > 2 ? c[b + 2] : 0.0;
+    double s3 = 0.0;
+    while (b > 0) {
         b -= 4;
         s0 = s0 * x4 + c[b];
-        s1 = b + 1 < n ? s1 * x4 + c[b + 1] : s1;
-        s2 = b + 2 < n ? s2 * x4 + c[b + 2] : s2;
-        s3 = b + 3 < n ? s3 * x4 + c[b + 3] : s3;
+        s1 = s1 * x4 + c[b + 1];
+        s2 = s2 * x4 + c[b + 2];
+        s3 = s3 * x4 + c[b + 3];
     }
     return (s0 + x * s1) + x2 * (s2 + x * s3);
 }

@@ -67,7 +67,7 @@ using kiv::special::kIncompleteGammaIterations;
 constexpr int kIterationLimit = kIncompleteGammaIterations;
 constexpr double kTemmeMinimumA = 20.0;
 constexpr double kTemmeBand = 0.4;
-constexpr double kLongExponent = 25.0;  // exponents beyond this go through long double
+constexpr double kLongExponent = 100.0;  // exponents beyond this go through long double
 constexpr double kUnderflowExponent = 746.0;
 constexpr double kLooseTolerance = 1e-10;  // above this, no long double is needed
 
