@@ -62,6 +62,7 @@
 namespace {
 
 using namespace kiv::kernels;
+using kiv::kernels::gamma_tables::kStirling;
 using kiv::special::kIncompleteGammaIterations;
 
 constexpr int kIterationLimit = kIncompleteGammaIterations;
@@ -142,7 +143,17 @@ double series_prefactor(double a, double x, double epsilon) {
     const bool loose = epsilon > kLooseTolerance;
     if (a >= 10.0) {
         const double mu = (x - a) / a;
-        const double exponent = a * phi_of(a, x, mu) + stirling_correction(a);
+        double exponent;
+        if (loose) {
+            // Absolute errors near 1e-16 a in the exponent are far below epsilon:
+            // ln(x/a) directly, and two terms of Stirling's series (the third is
+            // below 1e-8 for a >= 10).
+            const double inverse_a2 = 1.0 / (a * a);
+            exponent = a * std::max(0.0, mu - kiv::kernels::log(x / a)) +
+                       (kStirling[0] + kStirling[1] * inverse_a2) / a;
+        } else {
+            exponent = a * phi_of(a, x, mu) + stirling_correction(a);
+        }
         if (!(exponent > kLongExponent) || (loose && exponent < kUnderflowExponent))
             return kiv::kernels::exp(-exponent) / std::sqrt(2.0 * kPi * a);
         if (exponent > 2.0 * kUnderflowExponent) return 0.0;
@@ -161,14 +172,20 @@ Tails power_series(double a, double x, double epsilon) {
     Tails result;
     const double prefactor = series_prefactor(a, x, epsilon);
     if (prefactor == 0.0) return result;
+    // Terms t_n = t_(n-1) x / (a + n) two at a time with one division:
+    // t_n + t_(n+1) = t_(n-1) x (a + n + 1 + x) / ((a + n)(a + n + 1)).
+    const double x2 = x * x;
     double term = 1.0;
     double sum = 1.0;
     int n = 1;
-    for (; n <= kIterationLimit; ++n) {
-        term *= x / (a + n);
-        sum += term;
-        // The rest is below term r / (1 - r), r = x / (a + n + 1) < 1.
-        if (term * x <= epsilon * sum * (a + n + 1 - x)) break;
+    double low = a + 1.0;
+    for (; n <= kIterationLimit; n += 2, low += 2.0) {
+        const double high = low + 1.0;
+        const double inverse = 1.0 / (low * high);
+        sum += term * x * (high + x) * inverse;
+        term *= x2 * inverse;
+        // The rest is below term r / (1 - r), r = x / (high + 1) < 1.
+        if (term * x <= epsilon * sum * (high + 1.0 - x)) break;
     }
     result.converged = n <= kIterationLimit;
     result.p = prefactor * sum;
