@@ -50,6 +50,7 @@
 #include "s/incomplete_gamma.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "kernels/exp_log.hpp"
@@ -120,18 +121,19 @@ double log_gamma_1p_any(double a) {
     return log_gamma_positive(a) + kiv::kernels::log(a);
 }
 
-// Gamma(1 + a) for 0 < a < 10: a (a - 1) ... (r + 1) Gamma(1 + r), r in
-// (1/2, 3/2]; the factors a - k are exact, so the product rounds at most
-// nine times.
-double gamma_1p(double a) {
-    if (a <= 0.5) return kiv::kernels::exp(log_gamma_1p(a));
-    double product = 1.0;
+// Gamma(1 + a) = product * e^(returned), 0 < a < 10: the product is
+// a (a - 1) ... (r + 1) with r in (1/2, 3/2] (factors a - k exact, at most
+// nine roundings), and the exponent ln Gamma(1 + r); for a <= 1/2 the product
+// is 1 and the exponent ln Gamma(1 + a).
+double log_gamma_1p_reduced(double a, double &product) {
+    product = 1.0;
+    if (a <= 0.5) return log_gamma_1p(a);
     double r = a;
     while (r > 1.5) {
         product *= r;
         r -= 1.0;
     }
-    return product * kiv::kernels::exp(log_gamma_2p(r - 1.0));
+    return log_gamma_2p(r - 1.0);
 }
 
 // x^a e^-x / Gamma(a + 1), accurate relative to its value; 0 on underflow.
@@ -160,8 +162,11 @@ double series_prefactor(double a, double x, double epsilon) {
         return exp_negative(a_phi_long(a, x) + stirling_correction(a)) / std::sqrt(2.0 * kPi * a);
     }
     const double exponent = a * kiv::kernels::log(x) - x;
-    if (exponent > -kLongExponent && exponent < 700.0)
-        return kiv::kernels::exp(exponent) / gamma_1p(a);
+    if (exponent > -kLongExponent && exponent < 700.0) {
+        double product;
+        const double log_gamma = log_gamma_1p_reduced(a, product);
+        return kiv::kernels::exp(exponent - log_gamma) / product;
+    }
     if (exponent < -2.0 * kUnderflowExponent) return 0.0;
     if (loose && exponent < 700.0) return kiv::kernels::exp(exponent - log_gamma_1p_any(a));
     return exp_negative(x - a * std::log(static_cast<long double>(x)) + log_gamma_1p_any(a));
@@ -272,6 +277,25 @@ double erfc_scaled(double y) {
     return polynomial_four_chains(t, kiv::special::kErfcSeries);
 }
 
+// Lengths of the rows of kTemme for |eta| <= 1/4: the generator cut each
+// row where |d_(k,j)| 2^-j 20^-k < 1e-20 for every later j; the same rule
+// with 4^-j leaves about a third fewer terms.
+constexpr auto kTemmeLengthNarrow = [] {
+    using namespace kiv::kernels::gamma_tables;
+    std::array<std::size_t, kTemmeOrders> lengths{};
+    double order_scale = 1.0;
+    for (int k = 0; k < kTemmeOrders; ++k) {
+        double power = 1.0;
+        for (int j = 0; j < kTemmeLength[k]; ++j) {
+            const double d = kTemme[k][j] < 0.0 ? -kTemme[k][j] : kTemme[k][j];
+            if (d * power * order_scale >= 1e-20) lengths[k] = static_cast<std::size_t>(j) + 1;
+            power *= 0.25;
+        }
+        order_scale /= 20.0;
+    }
+    return lengths;
+}();
+
 // Temme's expansion for a >= 20, |mu| <= 0.4.
 Tails temme(double a, double x, double epsilon) {
     using namespace kiv::kernels::gamma_tables;
@@ -281,10 +305,11 @@ Tails temme(double a, double x, double epsilon) {
     const double inverse_a = 1.0 / a;
     double sum = 0.0;
     double inverse_power = 1.0;
+    const bool narrow = std::fabs(eta) <= 0.25;
     for (int k = 0; k < kTemmeOrders; ++k) {
-        const double term =
-            polynomial_four_chains(eta, kTemme[k], static_cast<std::size_t>(kTemmeLength[k])) *
-            inverse_power;
+        const std::size_t length =
+            narrow ? kTemmeLengthNarrow[k] : static_cast<std::size_t>(kTemmeLength[k]);
+        const double term = polynomial_four_chains(eta, kTemme[k], length) * inverse_power;
         sum += term;
         if (k > 0 && std::fabs(term) <= epsilon * std::fabs(sum)) break;
         inverse_power *= inverse_a;
@@ -299,8 +324,8 @@ Tails temme(double a, double x, double epsilon) {
         const double factor = kiv::kernels::exp(-a_phi);
         small = factor * (0.5 * erfc_scaled(y) + sign * scale * sum);
     } else {
-        const double factor = epsilon > kLooseTolerance ? kiv::kernels::exp(-a_phi)
-                                                        : exp_negative(a_phi_long(a, x));
+        const double factor =
+            epsilon > kLooseTolerance ? kiv::kernels::exp(-a_phi) : exp_negative(a_phi_long(a, x));
         small = factor * (0.5 * scaled_erfc_large(y) + sign * scale * sum);
     }
     Tails result;
