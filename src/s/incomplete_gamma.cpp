@@ -218,10 +218,12 @@ Tails continued_fraction(double a, double x, double epsilon) {
     double denominator = 1.0;
     double value = numerator;
     int n = 1;
-    for (; n <= kIterationLimit; n += 2) {
-        const double step_a = n * (a - n);
-        const double step_b = x + (2 * n + 1) - a;
-        const double next_a = (n + 1) * (a - (n + 1));
+    double index = 1.0;  // n as a double
+    const double x_minus_a = x - a;
+    for (; n <= kIterationLimit; n += 2, index += 2.0) {
+        const double step_b = x_minus_a + (2.0 * index + 1.0);
+        const double step_a = index * (a - index);
+        const double next_a = (index + 1.0) * (a - (index + 1.0));
         const double next_b = step_b + 2.0;
         const double combined_b = next_b * step_b + next_a;
         const double combined_a = next_b * step_a;
