@@ -12,6 +12,8 @@
 //     zeta terms: again no cancellation at the root z = 0.
 //   ln Gamma*(a), a >= 10: Stirling's series sum B_2k / (2k (2k - 1) a^(2k-1)),
 //     10 terms (last term below 2e-19 at a = 10).
+//   The series (zeta, log1pmx, Stirling) are summed in four interleaved
+//   Horner chains (polynomial_four_chains in gamma_kernels.hpp).
 //   Gamma(x), x > 0: (0, 1/2) exp(ln Gamma(1 + x)) / x; [1/2, 5/2) exp of the
 //     series above (absolute error of the exponent below 1e-17); [5/2, 10) the
 //     recurrence Gamma(x) = (x - 1)(x - 2)...(r) Gamma(r), r in [3/2, 5/2), whose
