@@ -2,7 +2,8 @@
 //
 //   log1pmx(z) = ln(1 + z) - z. With t = z / (2 + z), ln(1 + z) = 2 atanh t and
 //     z - 2t = z t, so ln(1 + z) - z = t (2 t^2 sum_k t^(2k) / (2k + 3) - z): no
-//     cancellation for -0.6 <= z <= 1 (|t| <= 0.43); direct log1p(z) - z outside.
+//     cancellation for -0.6 <= z <= 1 (|t| <= 0.43), 8, 16 or 24 terms by |t|;
+//     direct log1p(z) - z outside.
 //   ln Gamma(2 + z), |z| <= 1/2: the Taylor series (1 - g) z +
 //     sum_{k>=2} (-1)^k (zeta(k) - 1) z^k / k (Abramowitz & Stegun 6.1.33 moved
 //     by one), 30 terms; its terms fall like (z/2)^k, so the root at z = 0 keeps
@@ -11,6 +12,8 @@
 //     zeta terms: again no cancellation at the root z = 0.
 //   ln Gamma*(a), a >= 10: Stirling's series sum B_2k / (2k (2k - 1) a^(2k-1)),
 //     10 terms (last term below 2e-19 at a = 10).
+//   The series (zeta, log1pmx, Stirling) are summed in four interleaved
+//   Horner chains (polynomial_four_chains in gamma_kernels.hpp).
 //   Gamma(x), x > 0: (0, 1/2) exp(ln Gamma(1 + x)) / x; [1/2, 5/2) exp of the
 //     series above (absolute error of the exponent below 1e-17); [5/2, 10) the
 //     recurrence Gamma(x) = (x - 1)(x - 2)...(r) Gamma(r), r in [3/2, 5/2), whose
@@ -34,6 +37,7 @@
 // Measured against MPFR (tests/s/gamma_test.cpp): see docs/gamma.md.
 #include "kernels/gamma_kernels.hpp"
 
+#include <array>
 #include <cmath>
 
 #include "kernels/gamma_tables.hpp"
@@ -44,12 +48,16 @@ namespace {
 
 // ln Gamma(2 + z) - (1 - g) z = z^2 sum_k kZetaSeries[k] z^k.
 double zeta_tail(double z) {
-    using gamma_tables::kZetaSeries;
-    constexpr int count = sizeof kZetaSeries / sizeof kZetaSeries[0];
-    double sum = kZetaSeries[count - 1];
-    for (int k = count - 2; k >= 0; --k) sum = sum * z + kZetaSeries[k];
-    return sum * z * z;
+    return polynomial_four_chains(z, gamma_tables::kZetaSeries) * z * z;
 }
+
+// 1 / (2k + 3), k = 0, 1, ...: the series of log1pmx (each correctly
+// rounded by the compiler).
+constexpr auto kOddReciprocals = [] {
+    std::array<double, 24> table{};
+    for (std::size_t k = 0; k < table.size(); ++k) table[k] = 1.0 / static_cast<double>(2 * k + 3);
+    return table;
+}();
 
 }  // namespace
 
@@ -57,15 +65,10 @@ double log1pmx(double z) {
     if (z < -0.6 || z > 1.0) return std::log1p(z) - z;
     const double t = z / (2.0 + z);
     const double t2 = t * t;
-    // sum_k t^(2k) / (2k + 3), stopped below 2^-60 of the sum.
-    double power = 1.0;
-    double sum = 1.0 / 3.0;
-    for (int k = 1; k < 40; ++k) {
-        power *= t2;
-        const double term = power / (2 * k + 3);
-        sum += term;
-        if (term < 0x1p-60 * sum) break;
-    }
+    // sum_k t^(2k) / (2k + 3) by Horner's rule, cut where the next term
+    // t2^n / (2n + 3) falls below 2^-60 of the sum (1/3 or more).
+    const std::size_t terms = t2 <= 0.0025 ? 8 : t2 <= 0.0625 ? 16 : 24;
+    const double sum = polynomial_four_chains(t2, kOddReciprocals.data(), terms);
     return t * (2.0 * t2 * sum - z);
 }
 
@@ -81,10 +84,7 @@ double stirling_correction(double a) {
     using gamma_tables::kStirling;
     const double inverse = 1.0 / a;
     if (a > 1e8) return kStirling[0] * inverse;
-    const double inverse2 = inverse * inverse;
-    double sum = kStirling[9];
-    for (int k = 8; k >= 0; --k) sum = sum * inverse2 + kStirling[k];
-    return sum * inverse;
+    return polynomial_four_chains(inverse * inverse, kStirling) * inverse;
 }
 
 long double sin_pi(double x) {
