@@ -111,14 +111,11 @@ public:
     int size(int low, int high) { return provider_.ConsumeIntegralInRange(low, high); }
 
     // An enumeration value: mostly the members and their neighbours,
-    // otherwise any value in 0..2047. The public enumerations have no fixed
-    // underlying type in C++, so a value outside the range of their
-    // members' bits (0..2047 for every enumeration of kiv.h) is undefined
-    // behaviour as soon as the library loads the parameter; until the
-    // header fixes the type (int), the harnesses stay inside that range.
+    // otherwise any int (the enumerations of kiv.h have int as their fixed
+    // underlying type in C++, so every int is a valid value).
     int enumeration(int first, int last) {
         if (provider_.ConsumeIntegralInRange(0, 7) == 0)
-            return provider_.ConsumeIntegralInRange(0, 2047);
+            return provider_.ConsumeIntegral<int>();
         return provider_.ConsumeIntegralInRange(first - 1, last + 1);
     }
 
