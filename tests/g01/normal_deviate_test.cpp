@@ -18,11 +18,13 @@
 
 namespace {
 
-using kiv::oracle::Real;
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kBelowOne = 0x1.fffffffffffffp-1;
 constexpr Kiv_Tail kTails[] = {Kiv_LowerTail, Kiv_UpperTail, Kiv_TwoTailSignif, Kiv_TwoTailConfid};
+
+#if KIV_HAVE_MPFR
+using kiv::oracle::Real;
 
 // Worst relative error of Phi(g01cec(p)) against p over `points`.
 kiv::oracle::Worst round_trip_error(const std::vector<double> &points) {
@@ -57,6 +59,7 @@ TEST(NormalDeviate, ProbabilityOfTheDeviateAgainstMpfr) {
         EXPECT_LT(worst.error, c.bound) << c.name << " at " << worst.at;
     }
 }
+#endif  // KIV_HAVE_MPFR
 
 TEST(NormalDeviate, SeamsAndExtremes) {
     KivError fail = kiv::test::quiet_record();
@@ -73,9 +76,13 @@ TEST(NormalDeviate, SeamsAndExtremes) {
         fail = kiv::test::quiet_record();
         const double x = g01cec(p, &fail);
         EXPECT_EQ(fail.code, NE_NOERROR) << p;
+#if KIV_HAVE_MPFR
         Real phi;
         kiv::oracle::normal_lower_tail(phi, x);
         EXPECT_LT(kiv::oracle::relative_error(p, phi), 4e-5) << p;
+#else
+        EXPECT_TRUE(std::isfinite(x)) << p;
+#endif
     }
     EXPECT_NEAR(g01cec(1e-300, nullptr), -37.047, 5e-4);
     EXPECT_NEAR(g01cec(kBelowOne, nullptr), 8.2095361516013838, 1e-6);
