@@ -130,15 +130,12 @@ inline const IntervalConstants &constants_of_interval(int interval) {
 }
 
 // The same for a carry in (0, 1], from its bits: the clamped exponent field
-// less 983 is the table entry (the bias folded into the base address, so
-// that the index is the clamped field shifted).
+// less 983 is the table entry (the compiler folds the bias into the base
+// address).
 inline const IntervalConstants &constants_of_carry(std::uint64_t bits) {
     const std::uint64_t exponent = (bits - 1) >> 52;
     const std::uint64_t clamped = exponent > last_exponent ? exponent : last_exponent;
-    const std::uintptr_t biased_base = reinterpret_cast<std::uintptr_t>(interval_constants.data()) -
-                                       last_exponent * sizeof(IntervalConstants);
-    return *reinterpret_cast<const IntervalConstants *>(biased_base +
-                                                        clamped * sizeof(IntervalConstants));
+    return interval_constants[static_cast<std::size_t>(clamped - last_exponent)];
 }
 
 // The carry and the sign from the accepted fresh uniform r >= 0: carry 2r
