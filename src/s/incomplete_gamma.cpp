@@ -301,10 +301,10 @@ double erfc_scaled(double y) {
     return polynomial_four_chains(t, kiv::special::kErfcSeries);
 }
 
-// Lengths of the rows of kTemme for |eta| <= 1/4: the generator cut each
-// row where |d_(k,j)| 2^-j 20^-k < 1e-20 for every later j; the same rule
-// with 4^-j leaves about a third fewer terms.
-constexpr auto kTemmeLengthNarrow = [] {
+// Lengths of the rows of kTemme with every term below `threshold` once
+// scaled by eta_max^j a_min^-k dropped: the generator cut each row where
+// |d_(k,j)| 2^-j 20^-k < 1e-20 for every later j.
+constexpr auto temme_lengths(double eta_max, double inverse_a_min, double threshold) {
     using namespace kiv::kernels::gamma_tables;
     std::array<std::size_t, kTemmeOrders> lengths{};
     double order_scale = 1.0;
@@ -312,13 +312,20 @@ constexpr auto kTemmeLengthNarrow = [] {
         double power = 1.0;
         for (int j = 0; j < kTemmeLength[k]; ++j) {
             const double d = kTemme[k][j] < 0.0 ? -kTemme[k][j] : kTemme[k][j];
-            if (d * power * order_scale >= 1e-20) lengths[k] = static_cast<std::size_t>(j) + 1;
-            power *= 0.25;
+            if (d * power * order_scale >= threshold) lengths[k] = static_cast<std::size_t>(j) + 1;
+            power *= eta_max;
         }
-        order_scale /= 20.0;
+        order_scale *= inverse_a_min;
     }
     return lengths;
-}();
+}
+
+// For |eta| <= 1/4 at full precision (about a third fewer terms).
+constexpr auto kTemmeLengthNarrow = temme_lengths(0.25, 1.0 / 20.0, 1e-20);
+// For a loose tol (a >= 8, |eta| < 1/2): terms below 1e-10 against a sum near
+// 1/3 move the result by less than 1e-9 relative, far below tol; about half
+// the terms of the full rows, and the last orders vanish.
+constexpr auto kTemmeLengthLoose = temme_lengths(0.5, 1.0 / 8.0, 1e-10);
 
 // Temme's expansion for a >= 20, |mu| <= 0.4.
 Tails temme(double a, double x, double epsilon) {
@@ -329,10 +336,12 @@ Tails temme(double a, double x, double epsilon) {
     const double inverse_a = 1.0 / a;
     double sum = 0.0;
     double inverse_power = 1.0;
+    const bool loose = epsilon > kLooseTolerance;
     const bool narrow = std::fabs(eta) <= 0.25;
     for (int k = 0; k < kTemmeOrders; ++k) {
-        const std::size_t length =
-            narrow ? kTemmeLengthNarrow[k] : static_cast<std::size_t>(kTemmeLength[k]);
+        const std::size_t length = loose    ? kTemmeLengthLoose[k]
+                                   : narrow ? kTemmeLengthNarrow[k]
+                                            : static_cast<std::size_t>(kTemmeLength[k]);
         const double term = polynomial_four_chains(eta, kTemme[k], length) * inverse_power;
         sum += term;
         if (k > 0 && std::fabs(term) <= epsilon * std::fabs(sum)) break;
