@@ -6,6 +6,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstring>
 
 #include "kiv.h"
 
@@ -45,9 +46,22 @@ inline void report_code(KivError *fail, const char *routine, int code) {
     kiv_report_error(nullptr, code, routine, fail);
 }
 
-// Reports success (code 0) when a record is given and its code is still 0.
+// The text that kiv_report_error stores on success (the code table's entry
+// for NE_NOERROR).
+inline constexpr char kNoErrorText[] = "NE_NOERROR:\n  No error.";
+
+// Reports success (code 0) when a record is given and its code is still 0,
+// exactly as kiv_report_error(nullptr, 0, routine, fail) does, without its
+// table lookup and string scan on the common path: for code 0 the reporter
+// prints nothing and stores the code (already 0) and the text; a handler
+// set in the record is called through the reporter as usual.
 inline void report_success(KivError *fail, const char *routine) {
-    if (fail != nullptr && fail->code == 0) kiv_report_error(nullptr, 0, routine, fail);
+    if (fail == nullptr || fail->code != 0) return;
+    if (fail->handler != nullptr) {
+        kiv_report_error(nullptr, 0, routine, fail);
+        return;
+    }
+    std::memcpy(fail->message, kNoErrorText, sizeof kNoErrorText);
 }
 
 // A zero-filled record for a routine's private call of another routine.

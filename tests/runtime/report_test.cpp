@@ -232,3 +232,30 @@ TEST(CodeTable, QuotedTemplatesAreExact) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(ReportSuccess, FillsTheRecordAsTheReporterDoes) {
+    KivError quick{};
+    KivError full{};
+    std::memset(quick.message, '#', sizeof quick.message);
+    std::memset(full.message, '#', sizeof full.message);
+    kiv::rt::report_success(&quick, "r01abc");
+    kiv_report_error(nullptr, 0, "r01abc", &full);
+    EXPECT_EQ(std::memcmp(&quick, &full, sizeof quick), 0);
+
+    KivError with_handler{};
+    with_handler.handler = record_handler;
+    handler_calls.clear();
+    kiv::rt::report_success(&with_handler, "r01abc");
+    ASSERT_EQ(handler_calls.size(), 1u);
+    EXPECT_EQ(handler_calls[0].message, "NE_NOERROR:\n  No error.");
+
+    KivError failed{};
+    failed.code = NE_BAD_PARAM;
+    kiv::rt::report_success(&failed, "r01abc");
+    EXPECT_EQ(failed.code, NE_BAD_PARAM);
+    kiv::rt::report_success(nullptr, "r01abc");
+}
+
+}  // namespace
