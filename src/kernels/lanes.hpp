@@ -268,6 +268,31 @@ KIV_ALWAYS_INLINE LaneGroup<N> select(MaskGroup<N> mask, LaneGroup<N> if_true, d
     KIV_GROUP_EACH(if_true.part[group] = select(mask.part[group], if_true.part[group], if_false));
     return if_true;
 }
+
+// Horner's rule on N groups, step by step across the groups. An empty asm
+// statement after each step takes every group's partial sum as input and
+// output: it emits no instruction and changes no value, but GCC must then
+// finish step k of all groups before step k + 1 of any, so the N chains
+// stay interleaved (left alone, its scheduler emits them one after another
+// to save registers, and the processor's window cannot hold several whole
+// chains).
+template <int N>
+KIV_ALWAYS_INLINE void keep_in_step(LaneGroup<N> &sum) {
+    if constexpr (N == 4) {
+        __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]), "+x"(sum.part[2]), "+x"(sum.part[3]));
+    } else if constexpr (N == 3) {
+        __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]), "+x"(sum.part[2]));
+    } else if constexpr (N == 2) {
+        __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]));
+    }
+}
+template <int N, std::size_t M, std::size_t... I>
+KIV_ALWAYS_INLINE LaneGroup<N> horner_steps(LaneGroup<N> x, const double (&c)[M],
+                                            std::index_sequence<I...>) {
+    LaneGroup<N> sum = broadcast(c[M - 1], x);
+    ((sum = sum * x + c[M - 2 - I], keep_in_step(sum)), ...);
+    return sum;
+}
 #undef KIV_GROUP_EACH
 
 // out[i] = kernel(in[i]) for i < n, with a generic kernel (a lambda taking
