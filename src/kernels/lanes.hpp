@@ -276,8 +276,11 @@ KIV_ALWAYS_INLINE LaneGroup<N> select(MaskGroup<N> mask, LaneGroup<N> if_true, d
 // stay interleaved (left alone, its scheduler emits them one after another
 // to save registers, and the processor's window cannot hold several whole
 // chains).
+// Unoptimised builds keep every value in memory, where the register
+// constraint cannot be met (and the order does not matter): no tie there.
 template <int N>
-KIV_ALWAYS_INLINE void keep_in_step(LaneGroup<N> &sum) {
+KIV_ALWAYS_INLINE void keep_in_step([[maybe_unused]] LaneGroup<N> &sum) {
+#if defined(__OPTIMIZE__)
     if constexpr (N == 4) {
         __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]), "+x"(sum.part[2]), "+x"(sum.part[3]));
     } else if constexpr (N == 3) {
@@ -285,6 +288,7 @@ KIV_ALWAYS_INLINE void keep_in_step(LaneGroup<N> &sum) {
     } else if constexpr (N == 2) {
         __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]));
     }
+#endif
 }
 template <int N, std::size_t M, std::size_t... I>
 KIV_ALWAYS_INLINE LaneGroup<N> horner_steps(LaneGroup<N> x, const double (&c)[M],
