@@ -152,6 +152,168 @@ inline void apply_lanes(int n, const double *in, double *out, double fill, Kerne
     for (; i + 4 <= n; i += 4) store(out + i, kernel(load(in + i)));
     if (i < n) store_partial(out + i, n - i, kernel(load_partial(in + i, n - i, fill)));
 }
+
+// ---- groups of four lanes ---------------------------------------------------
+
+// N independent groups of four lanes as one number type. Every operation is
+// applied group by group, so the N dependency chains of a kernel are emitted
+// interleaved and the out-of-order window of the processor overlaps them
+// (GCC scalarises comparisons and selections on generic vectors wider than a
+// register, so the groups are spelled out here).
+template <int N>
+struct MaskGroup {
+    Mask4 part[N];
+};
+template <int N>
+struct LaneGroup {
+    Lanes4 part[N];
+};
+
+#define KIV_GROUP_EACH(expression)                            \
+    do {                                                      \
+        for (int group = 0; group < N; ++group) (expression); \
+    } while (0)
+
+#define KIV_GROUP_BINARY(Result, Left, Right, op, left_part, right_part) \
+    template <int N>                                                     \
+    KIV_ALWAYS_INLINE Result<N> operator op(Left a, Right b) {           \
+        Result<N> r;                                                     \
+        KIV_GROUP_EACH(r.part[group] = (left_part)op(right_part));       \
+        return r;                                                        \
+    }
+#define KIV_GROUP_ARITHMETIC(op)                                                              \
+    KIV_GROUP_BINARY(LaneGroup, LaneGroup<N>, LaneGroup<N>, op, a.part[group], b.part[group]) \
+    KIV_GROUP_BINARY(LaneGroup, LaneGroup<N>, double, op, a.part[group], b)                   \
+    KIV_GROUP_BINARY(LaneGroup, double, LaneGroup<N>, op, a, b.part[group])
+#define KIV_GROUP_COMPARISON(op)                                                              \
+    KIV_GROUP_BINARY(MaskGroup, LaneGroup<N>, LaneGroup<N>, op, a.part[group], b.part[group]) \
+    KIV_GROUP_BINARY(MaskGroup, LaneGroup<N>, double, op, a.part[group], b)
+#define KIV_GROUP_BITS(op)                                                                    \
+    KIV_GROUP_BINARY(MaskGroup, MaskGroup<N>, MaskGroup<N>, op, a.part[group], b.part[group]) \
+    KIV_GROUP_BINARY(MaskGroup, MaskGroup<N>, std::int64_t, op, a.part[group], b)
+
+KIV_GROUP_ARITHMETIC(+)
+KIV_GROUP_ARITHMETIC(-)
+KIV_GROUP_ARITHMETIC(*)
+KIV_GROUP_ARITHMETIC(/)
+KIV_GROUP_COMPARISON(<)
+KIV_GROUP_COMPARISON(<=)
+KIV_GROUP_COMPARISON(>)
+KIV_GROUP_COMPARISON(>=)
+KIV_GROUP_BITS(&)
+KIV_GROUP_BITS(|)
+KIV_GROUP_BITS(+)
+KIV_GROUP_BITS(-)
+KIV_GROUP_BITS(<<)
+KIV_GROUP_BITS(>>)
+
+#undef KIV_GROUP_BITS
+#undef KIV_GROUP_COMPARISON
+#undef KIV_GROUP_ARITHMETIC
+#undef KIV_GROUP_BINARY
+
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> operator-(LaneGroup<N> a) {
+    KIV_GROUP_EACH(a.part[group] = -a.part[group]);
+    return a;
+}
+template <int N>
+KIV_ALWAYS_INLINE MaskGroup<N> complement(MaskGroup<N> mask) {
+    KIV_GROUP_EACH(mask.part[group] = ~mask.part[group]);
+    return mask;
+}
+template <int N>
+KIV_ALWAYS_INLINE bool any(MaskGroup<N> mask) {
+    Mask4 all = mask.part[0];
+    for (int group = 1; group < N; ++group) all |= mask.part[group];
+    return any(all);
+}
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> broadcast(double x, LaneGroup<N>) {
+    LaneGroup<N> r;
+    KIV_GROUP_EACH(r.part[group] = broadcast(x, Lanes4{}));
+    return r;
+}
+template <int N>
+KIV_ALWAYS_INLINE MaskGroup<N> to_bits(LaneGroup<N> x) {
+    MaskGroup<N> r;
+    KIV_GROUP_EACH(r.part[group] = to_bits(x.part[group]));
+    return r;
+}
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> from_bits(MaskGroup<N> bits) {
+    LaneGroup<N> r;
+    KIV_GROUP_EACH(r.part[group] = from_bits(bits.part[group]));
+    return r;
+}
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> absolute(LaneGroup<N> x) {
+    KIV_GROUP_EACH(x.part[group] = absolute(x.part[group]));
+    return x;
+}
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> select(MaskGroup<N> mask, LaneGroup<N> if_true,
+                                      LaneGroup<N> if_false) {
+    KIV_GROUP_EACH(if_false.part[group] =
+                       select(mask.part[group], if_true.part[group], if_false.part[group]));
+    return if_false;
+}
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> select(MaskGroup<N> mask, double if_true, LaneGroup<N> if_false) {
+    KIV_GROUP_EACH(if_false.part[group] = select(mask.part[group], if_true, if_false.part[group]));
+    return if_false;
+}
+template <int N>
+KIV_ALWAYS_INLINE LaneGroup<N> select(MaskGroup<N> mask, LaneGroup<N> if_true, double if_false) {
+    KIV_GROUP_EACH(if_true.part[group] = select(mask.part[group], if_true.part[group], if_false));
+    return if_true;
+}
+
+// Horner's rule on N groups, step by step across the groups. An empty asm
+// statement after each step takes every group's partial sum as input and
+// output: it emits no instruction and changes no value, but GCC must then
+// finish step k of all groups before step k + 1 of any, so the N chains
+// stay interleaved (left alone, its scheduler emits them one after another
+// to save registers, and the processor's window cannot hold several whole
+// chains).
+// Unoptimised builds keep every value in memory, where the register
+// constraint cannot be met (and the order does not matter): no tie there.
+template <int N>
+KIV_ALWAYS_INLINE void keep_in_step([[maybe_unused]] LaneGroup<N> &sum) {
+#if defined(__OPTIMIZE__)
+    if constexpr (N == 4) {
+        __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]), "+x"(sum.part[2]), "+x"(sum.part[3]));
+    } else if constexpr (N == 3) {
+        __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]), "+x"(sum.part[2]));
+    } else if constexpr (N == 2) {
+        __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]));
+    }
+#endif
+}
+template <int N, std::size_t M, std::size_t... I>
+KIV_ALWAYS_INLINE LaneGroup<N> horner_steps(LaneGroup<N> x, const double (&c)[M],
+                                            std::index_sequence<I...>) {
+    LaneGroup<N> sum = broadcast(c[M - 1], x);
+    ((sum = sum * x + c[M - 2 - I], keep_in_step(sum)), ...);
+    return sum;
+}
+#undef KIV_GROUP_EACH
+
+// out[i] = kernel(in[i]) for i < n, with a generic kernel (a lambda taking
+// auto): 4 N values at a time as N interleaved groups of four, then groups
+// of four, then the rest (lanes beyond n hold `fill`).
+template <int N, class Kernel>
+inline void apply_lane_groups(int n, const double *in, double *out, double fill, Kernel kernel) {
+    int i = 0;
+    for (; i + 4 * N <= n; i += 4 * N) {
+        LaneGroup<N> v;
+        for (int group = 0; group < N; ++group) v.part[group] = load(in + i + 4 * group);
+        const LaneGroup<N> r = kernel(v);
+        for (int group = 0; group < N; ++group) store(out + i + 4 * group, r.part[group]);
+    }
+    for (; i + 4 <= n; i += 4) store(out + i, kernel(load(in + i)));
+    if (i < n) store_partial(out + i, n - i, kernel(load_partial(in + i, n - i, fill)));
+}
 #endif
 
 // The instruction sets a batch routine can run on: SSE2 (the x86-64
