@@ -278,9 +278,11 @@ KIV_ALWAYS_INLINE LaneGroup<N> select(MaskGroup<N> mask, LaneGroup<N> if_true, d
 // chains).
 // Unoptimised builds keep every value in memory, where the register
 // constraint cannot be met (and the order does not matter): no tie there.
+// Clang checks the constraint against the enclosing function's target
+// before inlining and refuses it; it schedules on its own.
 template <int N>
 KIV_ALWAYS_INLINE void keep_in_step([[maybe_unused]] LaneGroup<N> &sum) {
-#if defined(__OPTIMIZE__)
+#if defined(__OPTIMIZE__) && !defined(__clang__)
     if constexpr (N == 4) {
         __asm__("" : "+x"(sum.part[0]), "+x"(sum.part[1]), "+x"(sum.part[2]), "+x"(sum.part[3]));
     } else if constexpr (N == 3) {
