@@ -839,30 +839,6 @@ KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, dou
                     double *xsd, double *xskew, double *xkurt, double *xmin, double *xmax,
                     double *wsum, KivError *fail);
 
-/* Student's t, F, beta, studentized range, von Mises, bivariate and
-   multivariate normal: probabilities and deviates. */
-KIV_API double g01ebc(Kiv_Tail tail, double t, double df, KivError *fail);
-KIV_API double g01edc(Kiv_Tail tail, double f, double df1, double df2, KivError *fail);
-/* Error-flag form of g01edc: tail "L" or "U" (first character, either case). */
-KIV_API double g01edf(const char *tail, double f, double df1, double df2, int *ifail,
-                      int tail_len);
-KIV_API void g01eec(double x, double a, double b, double tol, double *p, double *q, double *pdf,
-                    KivError *fail);
-KIV_API double g01emc(double q, double v, int ir, KivError *fail);
-/* Error-flag form of g01emc. */
-KIV_API double g01emf(double q, double v, int ir, int *ifail);
-KIV_API double g01erc(double t, double vk, KivError *fail);
-KIV_API double g01fbc(Kiv_Tail tail, double p, double df, KivError *fail);
-KIV_API double g01fcc(double p, double df, KivError *fail);
-KIV_API double g01fdc(double p, double df1, double df2, KivError *fail);
-KIV_API double g01fec(double p, double a, double b, double tol, KivError *fail);
-KIV_API double g01ffc(double p, double a, double b, double tol, KivError *fail);
-KIV_API double g01fmc(double p, double v, int ir, KivError *fail);
-KIV_API double g01hac(double x, double y, double rho, KivError *fail);
-KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[],
-                      const double xmu[], const double sig[], int tdsig, double tol, int maxpts,
-                      KivError *fail);
-
 /* ---- random numbers -------------------------------------------------------- */
 KIV_API double g05cac(void);
 KIV_API void g05caz(int *code, int **pieces, double **carries, double **buffer, double **scale);

@@ -1,28 +1,8 @@
 #!/usr/bin/env bash
-# Regenerates the interpreter wrapper units from src/binding/catalogue.tsv
-# into a scratch directory and compares them with the committed units.
-# Exits non-zero when they differ (or a unit is missing or left over).
+# Checks that everything derived from the routine records (src/routines.tsv)
+# is up to date: the interpreter wrapper units, the kiv tool's routine table
+# and export list, the routine list of docs/cli.md, and the declarations of
+# include/kiv.h. Exits non-zero on any difference.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-python3 src/binding/generate.py --output "$scratch"
-status=0
-for generated in "$scratch"/wrap_*.cpp; do
-  committed=src/binding/$(basename "$generated")
-  if ! diff -u "$committed" "$generated"; then
-    status=1
-  fi
-done
-for committed in src/binding/wrap_*.cpp; do
-  if [[ ! -e $scratch/$(basename "$committed") ]]; then
-    echo "$committed: not produced by generate.py (left over)" >&2
-    status=1
-  fi
-done
-if ((status)); then
-  echo "wrapper units differ from the catalogue: run python3 src/binding/generate.py" >&2
-else
-  echo "wrapper units match the catalogue"
-fi
-exit $status
+python3 tools/generate/routines.py --check

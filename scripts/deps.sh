@@ -3,7 +3,8 @@
 # missing (as root, with apt-get). Usage: scripts/deps.sh [extra packages...]
 set -euo pipefail
 packages=(cmake make g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-          libmpfr-dev libgmp-dev libboost-dev libgsl-dev r-mathlib "$@")
+          libmpfr-dev libgmp-dev libboost-dev libgsl-dev r-mathlib clang-format
+          python3 "$@")
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

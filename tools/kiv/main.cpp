@@ -110,7 +110,7 @@ int run_list(const std::vector<std::string> &args) {
     Table table({"export", "routine", "args", "status", "kiv"});
     int present = 0;
     for (const auto &entry : catalogue()) {
-        const bool here = entry.has_routine && declared_in_header(entry.routine);
+        const bool here = entry.present;
         present += here ? 1 : 0;
         if (present_only && !here) continue;
         const char *status = here ? "present" : entry.has_routine ? "absent" : "no routine";

@@ -18,9 +18,7 @@ namespace kiv::tool {
 enum class ArgKind {
     Int,         // a decimal integer
     Double,      // a number (nan and inf allowed)
-    Tail,        // Kiv_Tail member by name, or its value
-    SumSquare,   // Kiv_SumSquare member by name, or its value
-    Order,       // Kiv_OrderType member by name, or its value
+    Enum,        // a member of the enumeration enum_type by name, or its value
     Doubles,     // array of doubles: @file, - (stdin) or 1,2,3
     OptDoubles,  // as Doubles, or "null" for a null pointer
     Ints,        // array of integers
@@ -30,6 +28,14 @@ enum class ArgKind {
 struct ArgSpec {
     const char *name;
     ArgKind kind;
+    const char *enum_type = nullptr;  // "Kiv_Tail" for ArgKind::Enum
+};
+
+// A member of an enumeration of kiv.h.
+struct EnumMember {
+    const char *name;
+    int value;
+    const char *type;
 };
 
 // The parsed command-line inputs of one call, by position.
@@ -76,6 +82,36 @@ private:
 std::vector<double> out_doubles(long long count);
 std::vector<int> out_ints(long long count);
 
+// Helpers of the array-length expressions of the routine records.
+// Elements read from a matrix of `rows` rows of `cols` values with row
+// stride `stride` (0 when either count is not positive).
+inline long long span_of(long long rows, long long cols, long long stride) {
+    if (rows <= 0 || cols <= 0) return 0;
+    return (rows - 1) * (stride > 0 ? stride : 0) + cols;
+}
+// Elements of a packed triangle of order m.
+inline long long packed(long long m) {
+    return m > 0 ? m * (m + 1) / 2 : 0;
+}
+inline long long nonneg(long long n) {
+    return n > 0 ? n : 0;
+}
+// The first `count` elements (clamped to the vector's size).
+template <typename T>
+std::span<const T> first(const std::vector<T> &values, long long count) {
+    const long long size = static_cast<long long>(values.size());
+    const auto n = static_cast<std::size_t>(count < 0 ? 0 : count > size ? size : count);
+    return {values.data(), n};
+}
+// A copy of `count` input elements to be written by the routine (at least
+// one element, so that data() is never null).
+template <typename T>
+std::vector<T> copy_of(const T *given, long long count) {
+    std::vector<T> copy(given, given + nonneg(count));
+    if (copy.empty()) copy.push_back(T{});
+    return copy;
+}
+
 struct RoutineSpec {
     const char *name;
     const char *summary;
@@ -84,7 +120,10 @@ struct RoutineSpec {
     void (*call)(const Inputs &in, Outputs &out, KivError *fail);
 };
 
+// Generated from the routine records (routine_table.cpp): every routine the
+// tool can call, by name, and every enumeration member of kiv.h.
 const std::vector<RoutineSpec> &routines();
+const std::vector<EnumMember> &enum_members();
 const RoutineSpec *find_routine(std::string_view name);
 
 // Parses the command-line words of `spec`'s inputs.
