@@ -1,6 +1,11 @@
 // Calls with valid arguments, one per routine (see catalogue.hpp).
 #include "catalogue.hpp"
 
+#include <sstream>
+#if KIV_HAVE_CLI_CORE
+#include "routines.hpp"
+#endif
+
 #include <cmath>
 
 namespace kiv::reliability {
@@ -234,10 +239,36 @@ void partial_autocorrelation(Scratch &s, KivError *fail, int variant) {
     g13acc(r, 6, 6, &s.out[0], &s.out[6], &s.out[12], &s.iout[0], fail);
 }
 
-}  // namespace
 
-const std::vector<Call> &catalogue() {
-    static const std::vector<Call> calls = {
+#if KIV_HAVE_CLI_CORE
+std::vector<std::string> words_of(const char *text) {
+    std::vector<std::string> words;
+    std::istringstream in(text);
+    for (std::string word; in >> word;) words.push_back(word);
+    return words;
+}
+
+// The example call of a routine's record, through the kiv tool's table: the
+// printed outputs reduced to a 64-bit FNV-1a digest and their length.
+Call example_call(const kiv::tool::RoutineSpec &spec) {
+    return {spec.name, spec.has_record,
+            [&spec](Scratch &s, KivError *fail, int) {
+                const kiv::tool::Inputs inputs =
+                    kiv::tool::parse_inputs(spec, words_of(spec.example));
+                kiv::tool::Outputs outputs;
+                spec.call(inputs, outputs, fail);
+                const std::string text = outputs.text();
+                std::uint64_t digest = 0xcbf29ce484222325ull;
+                for (unsigned char c : text) digest = (digest ^ c) * 0x100000001b3ull;
+                s.out[0] = std::bit_cast<double>(digest);
+                s.iout[0] = static_cast<int>(text.size());
+            },
+            true};
+}
+#endif
+
+std::vector<Call> all_calls() {
+    std::vector<Call> calls = {
         {"s15abc", false, erf_family},
         {"g01eac", true, normal_tail},
         {"g01fac", true, normal_deviate},
@@ -264,6 +295,25 @@ const std::vector<Call> &catalogue() {
         {"g13abc", true, autocorrelation},
         {"g13acc", true, partial_autocorrelation},
     };
+#if KIV_HAVE_CLI_CORE
+    // Every other routine of the records, by its example. The random-number
+    // routines and the clock depend on per-thread state and have their own
+    // calls above.
+    for (const auto &spec : kiv::tool::routines()) {
+        const std::string name = spec.name;
+        if (name.starts_with("g05") || name.starts_with("x05")) continue;
+        bool covered = false;
+        for (const Call &call : calls) covered = covered || name == call.routine;
+        if (!covered) calls.push_back(example_call(spec));
+    }
+#endif
+    return calls;
+}
+
+}  // namespace
+
+const std::vector<Call> &catalogue() {
+    static const std::vector<Call> calls = all_calls();
     return calls;
 }
 

@@ -43,7 +43,7 @@ TEST(LicenceRefusal, RefusedCallsWriteNothing) {
             std::strcmp(call.routine, "g01eac") == 0 || std::strcmp(call.routine, "g01fac") == 0 ||
             std::strcmp(call.routine, "g01cec") == 0 || std::strcmp(call.routine, "g01ecc") == 0 ||
             std::strcmp(call.routine, "g01efc") == 0;
-        if (!prepares_inputs) {
+        if (!prepares_inputs && !call.digest_only) {
             EXPECT_TRUE(scratch.untouched(returns_value)) << call.routine;
         }
         EXPECT_EQ(fail.code, 4242) << call.routine;

@@ -12,7 +12,9 @@ arguments the export takes off the interpreter's list, the result type, the
 chapter group, whether the last argument is a KivError record, whether the
 wrapper substitutes a script error handler, whether the routine is present in
 this build, its C parameters ("type name {annotation}; ..."), whether any
-routine stands behind the export at all, and a one-line summary.
+routine stands behind the export at all, a one-line summary, and an example
+of its arguments on the kiv command line (run by the reliability tests for
+every routine that their own calls do not cover).
 
 The annotation of a pointer parameter tells the kiv tool how to fill it:
   {in LEN}    an input array of LEN elements    {opt LEN}  the same, or null
@@ -130,14 +132,14 @@ def read_catalogue(path):
                 continue
             fields = line.rstrip("\n").split("\t")
             (export, routine, args, result, group, record, subst, present, params, exists,
-             summary) = fields
+             summary, example) = fields
             parsed = [parse_param(p) for p in params.split(";") if p.strip()]
             rows.append({
                 "export": export, "routine": routine, "args": int(args),
                 "result": result, "group": group, "record": record == "1",
                 "substitutes": subst == "1", "present": present == "1",
                 "params": [p["decl"] for p in parsed], "parsed": parsed,
-                "exists": exists == "1", "summary": summary,
+                "exists": exists == "1", "summary": summary, "example": example,
             })
     return rows
 
@@ -403,7 +405,7 @@ def cli_entry(r):
     lines = [f'{{"{r["routine"]}", "{r["summary"]}", {{{", ".join(inputs)}}}, '
              f'{"true" if r["record"] else "false"}, []({params}) {{']
     lines += ["    " + b for b in body]
-    lines.append("}},")
+    lines.append(f'}}, "{r["example"]}"}},')
     return lines
 
 
@@ -467,9 +469,11 @@ DOC_END = "<!-- end of routine list -->"
 
 
 def cli_doc(text, rows):
-    lines = [DOC_BEGIN, "", "| routine | computes |", "|---|---|"]
+    lines = [DOC_BEGIN, "", "| routine | computes | example |", "|---|---|---|"]
     for r in sorted((r for r in rows if cli_callable(r)), key=lambda r: r["routine"]):
-        lines.append(f"| `{r['routine']}` | {r['summary'].replace('|', chr(92) + '|')} |")
+        example = f"`kiv {r['routine']} {r['example']}`".replace(" `", "`")
+        lines.append(f"| `{r['routine']}` | {r['summary'].replace('|', chr(92) + '|')} "
+                     f"| {example} |")
     lines += ["", DOC_END]
     head, _, rest = text.partition(DOC_BEGIN)
     _, _, tail = rest.partition(DOC_END)

@@ -177,31 +177,35 @@ void Outputs::matrix(const char *name, const double *values, int rows, int cols,
     items_.push_back(std::move(item));
 }
 
-void Outputs::print(std::FILE *out) const {
+std::string Outputs::text() const {
     // A single unnamed result prints as the bare number, for scripts.
-    if (items_.size() == 1 && items_[0].is_scalar && items_[0].name == "result") {
-        std::fprintf(out, "%s\n", items_[0].cells[0].c_str());
-        return;
-    }
+    if (items_.size() == 1 && items_[0].is_scalar && items_[0].name == "result")
+        return items_[0].cells[0] + "\n";
+    std::string text;
     for (const auto &item : items_) {
         if (item.columns == 0) {
-            std::string line = item.name + " =";
-            for (const auto &cell : item.cells) line += " " + cell;
-            std::fprintf(out, "%s\n", line.c_str());
+            text += item.name + " =";
+            for (const auto &cell : item.cells) text += " " + cell;
+            text += "\n";
             continue;
         }
         std::size_t width = 0;
         for (const auto &cell : item.cells) width = std::max(width, cell.size());
-        std::fprintf(out, "%s =\n", item.name.c_str());
+        text += item.name + " =\n";
         for (std::size_t i = 0; i < item.cells.size(); i += item.columns) {
-            std::string line = " ";
+            text += " ";
             for (std::size_t j = i; j < i + static_cast<std::size_t>(item.columns); ++j) {
-                line.append(width + 1 - item.cells[j].size(), ' ');
-                line.append(item.cells[j]);
+                text.append(width + 1 - item.cells[j].size(), ' ');
+                text.append(item.cells[j]);
             }
-            std::fprintf(out, "%s\n", line.c_str());
+            text += "\n";
         }
     }
+    return text;
+}
+
+void Outputs::print(std::FILE *out) const {
+    std::fputs(text().c_str(), out);
 }
 
 const RoutineSpec *find_routine(std::string_view name) {

@@ -51,7 +51,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("xmin", xmin);
              printed.scalar("xmax", xmax);
              printed.scalar("wsum", wsum);
-         }},
+         },
+         "4 1,2,3,10 1,3,0.5,2"},
         {"g01cec",
          "standard normal deviate with P(X <= x) = p",
          {{"p", ArgKind::Double}},
@@ -59,7 +60,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *fail) {
              const double p = given.real(0);
              printed.scalar("result", g01cec(p, fail));
-         }},
+         },
+         "0.975"},
         {"g01eac",
          "standard normal tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"x", ArgKind::Double}},
@@ -68,7 +70,8 @@ const std::vector<RoutineSpec> &routines() {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
              const double x = given.real(1);
              printed.scalar("result", g01eac(tail, x, fail));
-         }},
+         },
+         "Kiv_LowerTail 1.96"},
         {"g01eac_v",
          "g01eac for each of n values",
          {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"n", ArgKind::Int}, {"x", ArgKind::Doubles}},
@@ -80,7 +83,8 @@ const std::vector<RoutineSpec> &routines() {
              auto out = out_doubles(n);
              g01eac_v(tail, n, x, out.data(), fail);
              printed.vector("out", first(out, n));
-         }},
+         },
+         "Kiv_UpperTail 3 0,1,2"},
         {"g01ecc",
          "chi-square tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"x", ArgKind::Double}, {"df", ArgKind::Double}},
@@ -90,7 +94,8 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(1);
              const double df = given.real(2);
              printed.scalar("result", g01ecc(tail, x, df, fail));
-         }},
+         },
+         "Kiv_UpperTail 3.84 1"},
         {"g01efc",
          "gamma tail probability (shape a, scale b)",
          {{"tail", ArgKind::Enum, "Kiv_Tail"},
@@ -104,7 +109,8 @@ const std::vector<RoutineSpec> &routines() {
              const double a = given.real(2);
              const double b = given.real(3);
              printed.scalar("result", g01efc(tail, g, a, b, fail));
-         }},
+         },
+         "Kiv_LowerTail 2 3 1"},
         {"g01fac",
          "standard normal deviate for a tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"p", ArgKind::Double}},
@@ -113,7 +119,8 @@ const std::vector<RoutineSpec> &routines() {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
              const double p = given.real(1);
              printed.scalar("result", g01fac(tail, p, fail));
-         }},
+         },
+         "Kiv_UpperTail 0.025"},
         {"g01fac_v",
          "g01fac for each of n values",
          {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"n", ArgKind::Int}, {"p", ArgKind::Doubles}},
@@ -125,7 +132,8 @@ const std::vector<RoutineSpec> &routines() {
              auto out = out_doubles(n);
              g01fac_v(tail, n, p, out.data(), fail);
              printed.vector("out", first(out, n));
-         }},
+         },
+         "Kiv_LowerTail 2 0.5,0.975"},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
          {{"n", ArgKind::Int},
@@ -147,7 +155,8 @@ const std::vector<RoutineSpec> &routines() {
              auto corr = out_doubles(nonneg(m) * nonneg(tdc));
              g02brc(n, m, x, tdx, svar, sobs, corr.data(), tdc, fail);
              printed.matrix("corr", corr.data(), m, m, tdc);
-         }},
+         },
+         "5 2 1,2,2,1,3,4,4,3,5,5 2 null null 2"},
         {"g02btc",
          "update means and sums of squares by one weighted observation",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
@@ -172,7 +181,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("sw", sw);
              printed.vector("xbar", first(xbar, m));
              printed.vector("c", first(c, packed(m)));
-         }},
+         },
+         "Kiv_AboutMean 2 1 1,2 1 0 0,0 0,0,0"},
         {"g02buc",
          "weighted means and sums of squares and cross-products of a data matrix",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
@@ -199,7 +209,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("sw", sw);
              printed.vector("wmean", first(wmean, m));
              printed.vector("c", first(c, packed(m)));
-         }},
+         },
+         "Kiv_AboutMean Kiv_RowMajor 3 2 1,2,2,1,3,4 2 null"},
         {"g02bwc",
          "correlation matrix from packed sums of squares",
          {{"m", ArgKind::Int}, {"r", ArgKind::Doubles}},
@@ -209,7 +220,8 @@ const std::vector<RoutineSpec> &routines() {
              auto r = copy_of(given.doubles(1, "r", packed(m)), packed(m));
              g02bwc(m, r.data(), fail);
              printed.vector("r", first(r, packed(m)));
-         }},
+         },
+         "2 2,1,2"},
         {"g02bxc",
          "weighted Pearson correlations, variances and standard deviations",
          {{"n", ArgKind::Int},
@@ -242,7 +254,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("std", first(std_dev, m));
              printed.matrix("r", r.data(), m, m, tdr);
              printed.matrix("v", v.data(), m, m, tdv);
-         }},
+         },
+         "3 2 1,2,2,1,3,4 2 1,1 null 2 2"},
         {"g02byc",
          "partial correlations of ny variables given nx others",
          {{"m", ArgKind::Int},
@@ -264,12 +277,14 @@ const std::vector<RoutineSpec> &routines() {
              auto p = out_doubles(nonneg(ny) * nonneg(tdp));
              g02byc(m, ny, nx, isz, r, tdr, p.data(), tdp, fail);
              printed.matrix("p", p.data(), ny, ny, tdp);
-         }},
+         },
+         "4 2 1 -1,-1,1,0 1,0.5,0.2,0.1,0.5,1,0.3,0.2,0.2,0.3,1,0.4,0.1,0.2,0.4,1 4 2"},
         {"g05cac",
          "next uniform number in (0,1)",
          {},
          false,
-         [](In, Outputs &printed, KivError *) { printed.scalar("result", g05cac()); }},
+         [](In, Outputs &printed, KivError *) { printed.scalar("result", g05cac()); },
+         ""},
         {"g05cbc",
          "seed the basic generator repeatably",
          {{"seed", ArgKind::Int}},
@@ -277,12 +292,14 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &, KivError *) {
              const int seed = given.integer(0);
              g05cbc(seed);
-         }},
+         },
+         ""},
         {"g05ccc",
          "seed the basic generator from the clock",
          {},
          false,
-         [](In, Outputs &, KivError *) { g05ccc(); }},
+         [](In, Outputs &, KivError *) { g05ccc(); },
+         ""},
         {"g05cfc",
          "save the state of the basic generator",
          {},
@@ -293,7 +310,8 @@ const std::vector<RoutineSpec> &routines() {
              g05cfc(istate.data(), xstate.data());
              printed.vector("istate", first(istate, 9));
              printed.vector("xstate", first(xstate, 4));
-         }},
+         },
+         ""},
         {"g05cgc",
          "restore a state saved by g05cfc",
          {{"istate", ArgKind::Ints}, {"xstate", ArgKind::Doubles}},
@@ -302,7 +320,8 @@ const std::vector<RoutineSpec> &routines() {
              const int *istate = given.ints(0, "istate", 9);
              const double *xstate = given.doubles(1, "xstate", 4);
              g05cgc(istate, xstate, fail);
-         }},
+         },
+         ""},
         {"g05dac",
          "uniform between a and b",
          {{"a", ArgKind::Double}, {"b", ArgKind::Double}},
@@ -311,7 +330,8 @@ const std::vector<RoutineSpec> &routines() {
              const double a = given.real(0);
              const double b = given.real(1);
              printed.scalar("result", g05dac(a, b));
-         }},
+         },
+         "0 1"},
         {"g05dbc",
          "exponential with mean |a|",
          {{"a", ArgKind::Double}},
@@ -319,7 +339,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *) {
              const double a = given.real(0);
              printed.scalar("result", g05dbc(a));
-         }},
+         },
+         "1"},
         {"g05ddc",
          "normal with mean a and standard deviation b",
          {{"a", ArgKind::Double}, {"b", ArgKind::Double}},
@@ -328,7 +349,8 @@ const std::vector<RoutineSpec> &routines() {
              const double a = given.real(0);
              const double b = given.real(1);
              printed.scalar("result", g05ddc(a, b));
-         }},
+         },
+         "0 1"},
         {"g05dyc",
          "uniform integer between i and j",
          {{"i", ArgKind::Int}, {"j", ArgKind::Int}},
@@ -337,7 +359,8 @@ const std::vector<RoutineSpec> &routines() {
              const int i = given.integer(0);
              const int j = given.integer(1);
              printed.integer("result", g05dyc(i, j));
-         }},
+         },
+         "1 6"},
         {"g05kac",
          "uniform from a selectable generator (seed array updated)",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -347,7 +370,8 @@ const std::vector<RoutineSpec> &routines() {
              auto iseed = copy_of(given.ints(1, "iseed", 4), 4);
              printed.scalar("result", g05kac(igen, iseed.data()));
              printed.vector("iseed", first(iseed, 4));
-         }},
+         },
+         "1 1,2,3,4"},
         {"g05kbc",
          "seed a selectable generator repeatably",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -358,7 +382,8 @@ const std::vector<RoutineSpec> &routines() {
              g05kbc(&igen, iseed.data());
              printed.integer("igen", igen);
              printed.vector("iseed", first(iseed, 4));
-         }},
+         },
+         "1 1,2,3,4"},
         {"g05kcc",
          "seed a selectable generator from the clock",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -369,7 +394,8 @@ const std::vector<RoutineSpec> &routines() {
              g05kcc(&igen, iseed.data());
              printed.integer("igen", igen);
              printed.vector("iseed", first(iseed, 4));
-         }},
+         },
+         ""},
         {"g13aac",
          "simple and seasonal differencing of a series",
          {{"x", ArgKind::Doubles},
@@ -389,7 +415,8 @@ const std::vector<RoutineSpec> &routines() {
              g13aac(x, nx, d, ds, s, xd.data(), &nxd, fail);
              printed.vector("xd", first(xd, nxd));
              printed.integer("nxd", nxd);
-         }},
+         },
+         "1,4,9,16,25 5 1 0 0"},
         {"g13abc",
          "sample autocorrelations and the portmanteau statistic",
          {{"x", ArgKind::Doubles}, {"nx", ArgKind::Int}, {"nk", ArgKind::Int}},
@@ -407,7 +434,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("xv", xv);
              printed.vector("r", first(r, nk));
              printed.scalar("stat", stat);
-         }},
+         },
+         "1,2,3,4 4 1"},
         {"g13acc",
          "partial autocorrelations by the Durbin-Levinson recursion",
          {{"r", ArgKind::Doubles}, {"nk", ArgKind::Int}, {"nl", ArgKind::Int}},
@@ -425,7 +453,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("v", first(v, nl));
              printed.vector("ar", first(ar, nvl));
              printed.integer("nvl", nvl);
-         }},
+         },
+         "0.5,0.25,0.125 3 3"},
         {"s14aac",
          "gamma function",
          {{"x", ArgKind::Double}},
@@ -433,7 +462,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *fail) {
              const double x = given.real(0);
              printed.scalar("result", s14aac(x, fail));
-         }},
+         },
+         "4.5"},
         {"s14abc",
          "logarithm of the gamma function",
          {{"x", ArgKind::Double}},
@@ -441,7 +471,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *fail) {
              const double x = given.real(0);
              printed.scalar("result", s14abc(x, fail));
-         }},
+         },
+         "-2.5"},
         {"s14bac",
          "regularized incomplete gamma functions P(a,x) and Q(a,x)",
          {{"a", ArgKind::Double}, {"x", ArgKind::Double}, {"tol", ArgKind::Double}},
@@ -455,7 +486,8 @@ const std::vector<RoutineSpec> &routines() {
              s14bac(a, x, tol, &p, &q, fail);
              printed.scalar("p", p);
              printed.scalar("q", q);
-         }},
+         },
+         "2 3 0"},
         {"s15abc",
          "normal lower tail P(x)",
          {{"x", ArgKind::Double}},
@@ -463,7 +495,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *) {
              const double x = given.real(0);
              printed.scalar("result", s15abc(x));
-         }},
+         },
+         "1.96"},
         {"s15acc",
          "normal upper tail Q(x)",
          {{"x", ArgKind::Double}},
@@ -471,7 +504,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *) {
              const double x = given.real(0);
              printed.scalar("result", s15acc(x));
-         }},
+         },
+         "1.96"},
         {"s15adc",
          "complementary error function erfc(x)",
          {{"x", ArgKind::Double}},
@@ -479,7 +513,8 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *) {
              const double x = given.real(0);
              printed.scalar("result", s15adc(x));
-         }},
+         },
+         "1.0"},
         {"s15adc_v",
          "erfc of each of n values",
          {{"n", ArgKind::Int}, {"x", ArgKind::Doubles}},
@@ -490,7 +525,8 @@ const std::vector<RoutineSpec> &routines() {
              auto out = out_doubles(n);
              s15adc_v(n, x, out.data());
              printed.vector("out", first(out, n));
-         }},
+         },
+         "3 0,1,2"},
         {"s15aec",
          "error function erf(x)",
          {{"x", ArgKind::Double}},
@@ -498,27 +534,32 @@ const std::vector<RoutineSpec> &routines() {
          [](In given, Outputs &printed, KivError *) {
              const double x = given.real(0);
              printed.scalar("result", s15aec(x));
-         }},
+         },
+         "0.5"},
         {"x02ajc",
          "machine precision",
          {},
          false,
-         [](In, Outputs &printed, KivError *) { printed.scalar("result", x02ajc()); }},
+         [](In, Outputs &printed, KivError *) { printed.scalar("result", x02ajc()); },
+         ""},
         {"x02akc",
          "smallest positive normalised double",
          {},
          false,
-         [](In, Outputs &printed, KivError *) { printed.scalar("result", x02akc()); }},
+         [](In, Outputs &printed, KivError *) { printed.scalar("result", x02akc()); },
+         ""},
         {"x02alc",
          "largest finite double",
          {},
          false,
-         [](In, Outputs &printed, KivError *) { printed.scalar("result", x02alc()); }},
+         [](In, Outputs &printed, KivError *) { printed.scalar("result", x02alc()); },
+         ""},
         {"x05aac",
          "calendar time in seconds",
          {},
          false,
-         [](In, Outputs &printed, KivError *) { printed.integer("result", x05aac()); }},
+         [](In, Outputs &printed, KivError *) { printed.integer("result", x05aac()); },
+         ""},
     };
     return table;
 }

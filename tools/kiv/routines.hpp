@@ -66,6 +66,8 @@ public:
     // rows x cols block of a row-major matrix with row stride `stride`.
     void matrix(const char *name, const double *values, int rows, int cols, int stride);
     void print(std::FILE *out) const;
+    // Everything print() would write, as one text.
+    std::string text() const;
 
 private:
     struct Item {
@@ -118,6 +120,7 @@ struct RoutineSpec {
     std::vector<ArgSpec> inputs;
     bool has_record;  // takes a KivError record
     void (*call)(const Inputs &in, Outputs &out, KivError *fail);
+    const char *example;  // its arguments in a typical call ("" for none)
 };
 
 // Generated from the routine records (routine_table.cpp): every routine the
