@@ -70,7 +70,7 @@ void special_function(Decoder &in) {
     list.addresses = {&x};
     const double got = call<double>(name[0], list);
     check_frame(list);
-    KIV_REQUIRE(same_bits(got, symbol<double (*)(double)>(name[1])(x)));
+    KIV_REQUIRE(same_bits(got, symbol<decltype(&::s15adc)>(name[1])(x)));
 }
 
 void distribution(Decoder &in) {
@@ -84,30 +84,30 @@ void distribution(Decoder &in) {
         case 0:
             list.addresses = {&tail, &a, &record.pointer};
             got = call<double>("g01eac_chdl", list);
-            expected = symbol<double (*)(Kiv_Tail, double, KivError *)>("g01eac")(
+            expected = symbol<decltype(&::g01eac)>("g01eac")(
                 static_cast<Kiv_Tail>(tail), a, &direct);
             break;
         case 1:
             list.addresses = {&tail, &a, &record.pointer};
             got = call<double>("g01fac_chdl", list);
-            expected = symbol<double (*)(Kiv_Tail, double, KivError *)>("g01fac")(
+            expected = symbol<decltype(&::g01fac)>("g01fac")(
                 static_cast<Kiv_Tail>(tail), a, &direct);
             break;
         case 2:
             list.addresses = {&a, &record.pointer};
             got = call<double>("g01cec_chdl", list);
-            expected = symbol<double (*)(double, KivError *)>("g01cec")(a, &direct);
+            expected = symbol<decltype(&::g01cec)>("g01cec")(a, &direct);
             break;
         case 3:
             list.addresses = {&tail, &a, &b, &record.pointer};
             got = call<double>("g01ecc_chdl", list);
-            expected = symbol<double (*)(Kiv_Tail, double, double, KivError *)>("g01ecc")(
+            expected = symbol<decltype(&::g01ecc)>("g01ecc")(
                 static_cast<Kiv_Tail>(tail), a, b, &direct);
             break;
         default:
             list.addresses = {&tail, &a, &b, &c, &record.pointer};
             got = call<double>("g01efc_chdl", list);
-            expected = symbol<double (*)(Kiv_Tail, double, double, double, KivError *)>("g01efc")(
+            expected = symbol<decltype(&::g01efc)>("g01efc")(
                 static_cast<Kiv_Tail>(tail), a, b, c, &direct);
             break;
     }
@@ -190,7 +190,7 @@ void generators(Decoder &in) {
 
 void constants() {
     ArgumentList none;
-    KIV_REQUIRE(call<double>("x02ajc_chdl", none) == symbol<double (*)()>("x02ajc")());
+    KIV_REQUIRE(call<double>("x02ajc_chdl", none) == symbol<decltype(&::x02ajc)>("x02ajc")());
     KIV_REQUIRE(none.starts == 0);
 }
 
