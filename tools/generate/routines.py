@@ -14,7 +14,8 @@ wrapper substitutes a script error handler, whether the routine is present in
 this build, its C parameters ("type name {annotation}; ..."), whether any
 routine stands behind the export at all, a one-line summary, and an example
 of its arguments on the kiv command line (run by the reliability tests for
-every routine that their own calls do not cover).
+every routine that their own calls do not cover; "-" keeps a routine off the
+command line).
 
 The annotation of a pointer parameter tells the kiv tool how to fill it:
   {in LEN}    an input array of LEN elements    {opt LEN}  the same, or null
@@ -307,14 +308,15 @@ def is_enum(ctype):
 
 
 def cli_callable(r):
-    """A present routine whose every parameter the tool knows how to fill."""
-    if not r["present"]:
+    """A present routine whose every parameter the tool knows how to fill, and
+    whose example is not "-" (no meaning on a command line)."""
+    if not r["present"] or r["example"] == "-":
         return False
     for p in r["parsed"]:
         ctype = p["ctype"]
         if ctype == "KivError *":
             continue
-        if ctype in SCALAR_KINDS or is_enum(ctype):
+        if ctype in SCALAR_KINDS or is_enum(ctype) or ctype == "const char *":
             continue
         if p["role"] is None or ctype.replace("const ", "") not in ("double *", "int *"):
             return False
@@ -341,6 +343,10 @@ def cli_entry(r):
             kind, read = SCALAR_KINDS[ctype]
             inputs.append(f'{{"{name}", ArgKind::{kind}}}')
             scalars.append(f"const {ctype} {name} = {read.format(k=k)};")
+            args.append(name)
+        elif ctype == "const char *":
+            inputs.append(f'{{"{name}", ArgKind::Text}}')
+            scalars.append(f"const char *{name} = given.text({k});")
             args.append(name)
         elif is_enum(ctype):
             inputs.append(f'{{"{name}", ArgKind::Enum, "{ctype}"}}')

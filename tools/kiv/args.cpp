@@ -22,6 +22,8 @@ const char *kind_label(const ArgSpec &arg) {
             return "NUMBER";
         case ArgKind::Enum:
             return arg.enum_type;
+        case ArgKind::Text:
+            return "TEXT";
         case ArgKind::Doubles:
             return "NUMBERS";
         case ArgKind::OptDoubles:
@@ -79,6 +81,8 @@ Inputs::Value parse_one(const ArgSpec &arg, const std::string &word) {
         }
         case ArgKind::Enum:
             return parse_enum(arg, word);
+        case ArgKind::Text:
+            return word;
         case ArgKind::Doubles:
         case ArgKind::OptDoubles:
             return read_numbers(word);

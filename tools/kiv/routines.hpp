@@ -19,6 +19,7 @@ enum class ArgKind {
     Int,         // a decimal integer
     Double,      // a number (nan and inf allowed)
     Enum,        // a member of the enumeration enum_type by name, or its value
+    Text,        // a word, passed as a C string
     Doubles,     // array of doubles: @file, - (stdin) or 1,2,3
     OptDoubles,  // as Doubles, or "null" for a null pointer
     Ints,        // array of integers
@@ -41,11 +42,13 @@ struct EnumMember {
 // The parsed command-line inputs of one call, by position.
 class Inputs {
 public:
-    using Value = std::variant<int, double, std::vector<double>, std::vector<int>, std::monostate>;
+    using Value = std::variant<int, double, std::vector<double>, std::vector<int>, std::monostate,
+                               std::string>;
     explicit Inputs(std::vector<Value> values) : values_(std::move(values)) {}
 
     int integer(std::size_t k) const { return std::get<int>(values_[k]); }
     double real(std::size_t k) const { return std::get<double>(values_[k]); }
+    const char *text(std::size_t k) const { return std::get<std::string>(values_[k]).c_str(); }
     // The array at position k, which must hold at least `need` elements
     // (a negative need counts as 0); null for an optional array given as
     // "null". A shorter array is a usage error naming `name`.
