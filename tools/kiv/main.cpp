@@ -2,7 +2,7 @@
 //
 //   kiv demo                         a short tour of every chapter
 //   kiv <code> ARGS...               call a routine (kiv help <code>)
-//   kiv describe FILE.csv [--lags N] [--digits N]
+//   kiv describe FILE.csv|- [options]  (kiv describe --help)
 //   kiv list [--present]             the export catalogue
 //
 // Exit status: 0 on success, 1 when a routine reports an error, 2 for a
@@ -24,9 +24,9 @@ constexpr const char *usage_text =
     "usage: kiv COMMAND [ARGS...]\n"
     "\n"
     "  demo                          a short tour of the library's chapters\n"
-    "  describe FILE.csv [--lags N] [--digits N]\n"
-    "                                statistics, correlations and autocorrelations\n"
+    "  describe FILE.csv|- [OPTIONS] statistics, correlations and autocorrelations\n"
     "                                of the columns of a CSV file with a header line\n"
+    "                                (kiv describe --help)\n"
     "  list [--present]              every export of the catalogue and whether its\n"
     "                                routine is in this build\n"
     "  <code> ARGS... [+ <code> ARGS...]\n"

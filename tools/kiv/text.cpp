@@ -118,11 +118,31 @@ void Table::add_row(std::vector<std::string> row) {
     rows_.push_back(std::move(row));
 }
 
+std::size_t display_width(std::string_view text) {
+    std::size_t width = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const int length = byte < 0x80 ? 1 : byte >> 5 == 6 ? 2 : byte >> 4 == 14 ? 3 : 4;
+        char32_t code = length == 1 ? byte : byte & (0x7F >> length);
+        for (int k = 1; k < length && i + k < text.size(); ++k)
+            code = (code << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
+        i += static_cast<std::size_t>(length);
+        // East Asian wide and full-width characters take two columns.
+        const bool wide = (code >= 0x1100 && code <= 0x115F) || (code >= 0x2E80 && code <= 0xA4CF) ||
+                          (code >= 0xAC00 && code <= 0xD7A3) || (code >= 0xF900 && code <= 0xFAFF) ||
+                          (code >= 0xFE30 && code <= 0xFE4F) || (code >= 0xFF00 && code <= 0xFF60) ||
+                          (code >= 0xFFE0 && code <= 0xFFE6) || (code >= 0x20000 && code <= 0x3FFFD);
+        width += wide ? 2 : 1;
+    }
+    return width;
+}
+
 void Table::print(std::FILE *out, const std::string &indent) const {
     std::vector<std::size_t> width;
     for (const auto &row : rows_) {
         if (row.size() > width.size()) width.resize(row.size(), 0);
-        for (std::size_t j = 0; j < row.size(); ++j) width[j] = std::max(width[j], row[j].size());
+        for (std::size_t j = 0; j < row.size(); ++j)
+            width[j] = std::max(width[j], display_width(row[j]));
     }
     // The first column holds labels and is left-aligned, unless every entry
     // under the heading is a number.
@@ -134,7 +154,7 @@ void Table::print(std::FILE *out, const std::string &indent) const {
     auto print_row = [&](const std::vector<std::string> &row) {
         std::string line = indent;
         for (std::size_t j = 0; j < row.size(); ++j) {
-            const std::string pad(width[j] - row[j].size(), ' ');
+            const std::string pad(width[j] - display_width(row[j]), ' ');
             if (j > 0) line += "  ";
             line += (j == 0 && labels) ? row[j] + pad : pad + row[j];
         }

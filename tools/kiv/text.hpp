@@ -36,6 +36,10 @@ std::string significant(double value, int digits);
 // Errors name the file and the line.
 std::vector<double> read_numbers(const std::string &source);
 
+// The columns a UTF-8 text takes on a terminal (wide East Asian characters
+// count two).
+std::size_t display_width(std::string_view text);
+
 // A table printed with aligned columns: numbers right-aligned, a first
 // column of labels left-aligned, a rule under the heading.
 class Table {
