@@ -24,6 +24,7 @@ The annotation of a pointer parameter tells the kiv tool how to fill it:
   {matrix ROWS COLS STRIDE}  an output matrix of ROWS rows with row stride STRIDE
   show EXPR   print only the first EXPR elements (EXPR may name an output)
   print NAME  the name under which the value is printed (and declared in kiv.h)
+  members A,B the members of an enumeration the routine accepts (default: all)
 LEN and EXPR are C++ expressions without blanks over the other parameters and
 the helpers span_of(rows,cols,stride), packed(m) and nonneg(n). A present
 routine whose every pointer parameter is annotated can be called by `kiv`.
@@ -102,7 +103,7 @@ def parse_param(text):
     decl = decl.strip()
     ctype, name = split_param(decl)
     param = {"decl": decl, "ctype": ctype, "name": name, "role": None, "len": None,
-             "show": None, "print": name, "matrix": None}
+             "show": None, "print": name, "matrix": None, "members": None}
     words = note.rstrip("}").split()
     k = 0
     while k < len(words):
@@ -116,7 +117,7 @@ def parse_param(text):
             param["role"] = "out"
             param["matrix"] = words[k + 1:k + 4]
             k += 3
-        elif word in ("show", "print"):
+        elif word in ("show", "print", "members"):
             param[word] = words[k + 1]
             k += 1
         else:
@@ -349,7 +350,8 @@ def cli_entry(r):
             scalars.append(f"const char *{name} = given.text({k});")
             args.append(name)
         elif is_enum(ctype):
-            inputs.append(f'{{"{name}", ArgKind::Enum, "{ctype}"}}')
+            members = f', -1, "{p["members"]}"' if p["members"] else ""
+            inputs.append(f'{{"{name}", ArgKind::Enum, "{ctype}"{members}}}')
             scalars.append(f"const auto {name} = static_cast<{ctype}>(given.integer({k}));")
             args.append(name)
         elif role in ("in", "opt"):
@@ -387,6 +389,15 @@ def cli_entry(r):
             args.append(f"{name}.data()")
             prints.append(("vector", p))
     body = scalars + body
+    # A length that sizes an input array may be given as "-": the array's length.
+    names = [i.split('"')[1] for i in inputs]
+    for k, entry in enumerate(inputs):
+        if "ArgKind::Int}" not in entry:
+            continue
+        sized = [p for role in ("in", "inout", "opt") for p in r["parsed"]
+                 if p["role"] == role and p["len"] == names[k] and p["name"] in names]
+        if sized:
+            inputs[k] = entry[:-1] + f", nullptr, {names.index(sized[0]['name'])}}}"
     call = f"{r['routine']}({', '.join(args)})"
     if r["result"] in ("double", "int", "long"):
         method = "scalar" if r["result"] == "double" else "integer"

@@ -36,17 +36,38 @@ const char *kind_label(const ArgSpec &arg) {
     return "?";
 }
 
+// The members of the enumeration that `arg` accepts by name.
+std::vector<std::string> accepted_members(const ArgSpec &arg) {
+    std::vector<std::string> names;
+    for (const auto &member : enum_members()) {
+        if (std::strcmp(member.type, arg.enum_type) != 0) continue;
+        if (arg.members != nullptr) {
+            const std::string list = std::string(",") + arg.members + ",";
+            if (list.find(std::string(",") + member.name + ",") == std::string::npos) continue;
+        }
+        names.push_back(member.name);
+    }
+    return names;
+}
+
+std::string joined(const std::vector<std::string> &names) {
+    std::string text;
+    for (const auto &name : names) text += (text.empty() ? "" : ", ") + name;
+    return text;
+}
+
 int parse_enum(const ArgSpec &arg, const std::string &word) {
     int value = 0;
     if (parse_int(word, value)) return value;  // a raw value, valid or not
-    std::string members;
-    for (const auto &member : enum_members()) {
-        if (std::strcmp(member.type, arg.enum_type) != 0) continue;
-        if (word == member.name) return member.value;
-        members += std::string(members.empty() ? "" : ", ") + member.name;
-    }
+    for (const auto &member : enum_members())
+        if (word == member.name && std::strcmp(member.type, arg.enum_type) == 0) {
+            for (const auto &name : accepted_members(arg))
+                if (name == word) return member.value;
+            throw UsageError(std::string("argument ") + arg.name + ": this routine does not take " +
+                             word + " (" + joined(accepted_members(arg)) + ")");
+        }
     throw UsageError(std::string("argument ") + arg.name + ": '" + word + "' is not a member of " +
-                     kind_label(arg) + " (" + members + ")");
+                     kind_label(arg) + " (" + joined(accepted_members(arg)) + ")");
 }
 
 std::vector<int> to_ints(const std::vector<double> &values, const char *name) {
@@ -97,10 +118,27 @@ template <typename T>
 const T *checked_array(const Inputs::Value &value, const char *name, long long need) {
     if (std::holds_alternative<std::monostate>(value)) return nullptr;
     const auto &array = std::get<std::vector<T>>(value);
-    if (need > static_cast<long long>(array.size()))
-        throw UsageError(std::string("argument ") + name + " has " + std::to_string(array.size()) +
+    const long long size = static_cast<long long>(array.size());
+    if (need > size)
+        throw UsageError(std::string("argument ") + name + " has " + std::to_string(size) +
                          " values but the call reads " + std::to_string(need));
+    // More values than the call reads is a mistake too: they would be
+    // silently ignored.
+    if (need < size)
+        throw UsageError(std::string("argument ") + name + " has " + std::to_string(size) +
+                         " values but the call reads only " + std::to_string(std::max(need, 0LL)));
     return array.data();
+}
+
+bool is_array(ArgKind kind) {
+    return kind == ArgKind::Doubles || kind == ArgKind::OptDoubles || kind == ArgKind::Ints ||
+           kind == ArgKind::OptInts;
+}
+
+std::size_t array_size(const Inputs::Value &value) {
+    if (const auto *d = std::get_if<std::vector<double>>(&value)) return d->size();
+    if (const auto *i = std::get_if<std::vector<int>>(&value)) return i->size();
+    return 0;
 }
 
 }  // namespace
@@ -125,11 +163,28 @@ Inputs parse_inputs(const RoutineSpec &spec, const std::vector<std::string> &wor
                          " argument" + (spec.inputs.size() == 1 ? "" : "s") + ", " +
                          std::to_string(words.size()) + " given\nusage: kiv " + usage_of(spec));
     // Standard input can be read only once.
-    if (std::count(words.begin(), words.end(), "-") > 1)
+    int from_stdin = 0;
+    for (std::size_t k = 0; k < words.size(); ++k)
+        from_stdin += words[k] == "-" && is_array(spec.inputs[k].kind);
+    if (from_stdin > 1)
         throw UsageError("only one argument can be read from standard input ('-')");
     std::vector<Inputs::Value> values;
+    for (std::size_t k = 0; k < words.size(); ++k) {
+        const ArgSpec &arg = spec.inputs[k];
+        // A length given as "-" is taken from the array it sizes.
+        if (words[k] == "-" && arg.kind == ArgKind::Int && arg.sizes >= 0) {
+            values.push_back(std::monostate{});
+            continue;
+        }
+        values.push_back(parse_one(arg, words[k]));
+    }
     for (std::size_t k = 0; k < words.size(); ++k)
-        values.push_back(parse_one(spec.inputs[k], words[k]));
+        if (std::holds_alternative<std::monostate>(values[k]) &&
+            spec.inputs[k].kind == ArgKind::Int) {
+            const auto size = array_size(values[static_cast<std::size_t>(spec.inputs[k].sizes)]);
+            if (size > 2147483647u) throw UsageError("array too long");
+            values[k] = static_cast<int>(size);
+        }
     return Inputs(std::move(values));
 }
 
@@ -138,8 +193,12 @@ std::string usage_of(const RoutineSpec &spec) {
     for (const auto &arg : spec.inputs) text += std::string(" ") + arg.name;
     text += "\n  ";
     text += spec.summary;
-    for (const auto &arg : spec.inputs)
+    for (const auto &arg : spec.inputs) {
         text += std::string("\n  ") + arg.name + ": " + kind_label(arg);
+        if (arg.kind == ArgKind::Enum) text += " (" + joined(accepted_members(arg)) + ")";
+        if (arg.kind == ArgKind::Int && arg.sizes >= 0)
+            text += std::string(" (- for the length of ") + spec.inputs[arg.sizes].name + ")";
+    }
     return text;
 }
 

@@ -8,6 +8,8 @@
 // Exit status: 0 on success, 1 when a routine reports an error, 2 for a
 // mistake on the command line or in an input file.
 #include <cstdio>
+#include <algorithm>
+#include <cctype>
 #include <cstring>
 #include <new>
 
@@ -44,12 +46,40 @@ bool is_error_message(const char *message) {
     return std::strlen(message) > 5 && message[5] == 'E';
 }
 
-const RoutineSpec &routine_or_throw(const std::string &name) {
+std::string lower_case(std::string text) {
+    for (char &c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
+}
+
+// Levenshtein distance, for suggestions.
+std::size_t distance(const std::string &a, const std::string &b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t above = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (a[i - 1] != b[j - 1])});
+            diagonal = above;
+        }
+    }
+    return row[b.size()];
+}
+
+// The routine named, in any case; an unknown name is a usage error with the
+// nearest names of the catalogue as suggestions.
+const RoutineSpec &routine_or_throw(const std::string &given) {
+    const std::string name = lower_case(given);
     if (const RoutineSpec *spec = find_routine(name)) return *spec;
     for (const auto &entry : catalogue())
         if (entry.routine == name)
             throw UsageError("routine '" + name + "' is not in this build (kiv list)");
-    throw UsageError("unknown command or routine '" + name + "' (kiv help)");
+    std::string near;
+    for (const auto &spec : routines())
+        if (distance(name, spec.name) <= 2) near += std::string(near.empty() ? "" : ", ") + spec.name;
+    throw UsageError("unknown command or routine '" + given + "' (kiv help)" +
+                     (near.empty() ? "" : "; did you mean " + near + "?"));
 }
 
 int run_help(const std::vector<std::string> &args) {
@@ -79,17 +109,27 @@ int run_calls(const std::vector<std::string> &args) {
         const RoutineSpec &spec = routine_or_throw(args[k]);
         const std::vector<std::string> words(args.begin() + static_cast<long>(k) + 1,
                                              args.begin() + static_cast<long>(end));
-        calls.push_back({&spec, parse_inputs(spec, words)});
+        try {
+            calls.push_back({&spec, parse_inputs(spec, words)});
+        } catch (const UsageError &error) {
+            if (k == 0 && end == args.size()) throw;  // a single call
+            throw UsageError("call " + std::to_string(calls.size() + 1) + " (" + spec.name +
+                             "): " + error.what());
+        }
         k = end + 1;
         if (end + 1 == args.size()) throw UsageError("nothing after '+'");
     }
-    for (const auto &call : calls) {
+    for (std::size_t c = 0; c < calls.size(); ++c) {
+        const Call &call = calls[c];
         KivError fail = quiet_record();
         Outputs outputs;
         call.spec->call(call.inputs, outputs, &fail);
         if (call.spec->has_record && fail.code != 0) {
             const bool error = is_error_message(fail.message);
-            std::fprintf(stderr, "kiv: %s: %s %d (%s):\n%s\n", call.spec->name,
+            const std::string which =
+                calls.size() > 1 ? "call " + std::to_string(c + 1) + " (" + call.spec->name + ")"
+                                 : std::string(call.spec->name);
+            std::fprintf(stderr, "kiv: %s: %s %d (%s):\n%s\n", which.c_str(),
                          error ? "error" : "warning", fail.code,
                          kiv_error_name(fail.code) ? kiv_error_name(fail.code) : "?", fail.message);
             if (error) return 1;

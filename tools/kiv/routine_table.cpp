@@ -28,7 +28,7 @@ const std::vector<RoutineSpec> &routines() {
     static const std::vector<RoutineSpec> table = {
         {"g01aac",
          "mean, sd, skewness, kurtosis, min, max of a weighted sample",
-         {{"n", ArgKind::Int}, {"x", ArgKind::Doubles}, {"wt", ArgKind::OptDoubles}},
+         {{"n", ArgKind::Int, nullptr, 1}, {"x", ArgKind::Doubles}, {"wt", ArgKind::OptDoubles}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const int n = given.integer(0);
@@ -64,7 +64,9 @@ const std::vector<RoutineSpec> &routines() {
          "0.975"},
         {"g01eac",
          "standard normal tail probability",
-         {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"x", ArgKind::Double}},
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
+           "Kiv_LowerTail,Kiv_UpperTail,Kiv_TwoTailSignif,Kiv_TwoTailConfid"},
+          {"x", ArgKind::Double}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
@@ -74,7 +76,10 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_LowerTail 1.96"},
         {"g01eac_v",
          "g01eac for each of n values",
-         {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"n", ArgKind::Int}, {"x", ArgKind::Doubles}},
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
+           "Kiv_LowerTail,Kiv_UpperTail,Kiv_TwoTailSignif,Kiv_TwoTailConfid"},
+          {"n", ArgKind::Int, nullptr, 2},
+          {"x", ArgKind::Doubles}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
@@ -87,7 +92,9 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_UpperTail 3 0,1,2"},
         {"g01ecc",
          "chi-square tail probability",
-         {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"x", ArgKind::Double}, {"df", ArgKind::Double}},
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
+          {"x", ArgKind::Double},
+          {"df", ArgKind::Double}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
@@ -98,7 +105,7 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_UpperTail 3.84 1"},
         {"g01efc",
          "gamma tail probability (shape a, scale b)",
-         {{"tail", ArgKind::Enum, "Kiv_Tail"},
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
           {"g", ArgKind::Double},
           {"a", ArgKind::Double},
           {"b", ArgKind::Double}},
@@ -113,7 +120,9 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_LowerTail 2 3 1"},
         {"g01fac",
          "standard normal deviate for a tail probability",
-         {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"p", ArgKind::Double}},
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
+           "Kiv_LowerTail,Kiv_UpperTail,Kiv_TwoTailSignif,Kiv_TwoTailConfid"},
+          {"p", ArgKind::Double}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
@@ -123,7 +132,10 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_UpperTail 0.025"},
         {"g01fac_v",
          "g01fac for each of n values",
-         {{"tail", ArgKind::Enum, "Kiv_Tail"}, {"n", ArgKind::Int}, {"p", ArgKind::Doubles}},
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
+           "Kiv_LowerTail,Kiv_UpperTail,Kiv_TwoTailSignif,Kiv_TwoTailConfid"},
+          {"n", ArgKind::Int, nullptr, 2},
+          {"p", ArgKind::Doubles}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const auto tail = static_cast<Kiv_Tail>(given.integer(0));
@@ -136,8 +148,8 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_LowerTail 2 0.5,0.975"},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
-         {{"n", ArgKind::Int},
-          {"m", ArgKind::Int},
+         {{"n", ArgKind::Int, nullptr, 5},
+          {"m", ArgKind::Int, nullptr, 4},
           {"x", ArgKind::Doubles},
           {"tdx", ArgKind::Int},
           {"svar", ArgKind::OptInts},
@@ -160,7 +172,7 @@ const std::vector<RoutineSpec> &routines() {
         {"g02btc",
          "update means and sums of squares by one weighted observation",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
-          {"m", ArgKind::Int},
+          {"m", ArgKind::Int, nullptr, 6},
           {"wt", ArgKind::Double},
           {"x", ArgKind::Doubles},
           {"incx", ArgKind::Int},
@@ -187,7 +199,7 @@ const std::vector<RoutineSpec> &routines() {
          "weighted means and sums of squares and cross-products of a data matrix",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
           {"order", ArgKind::Enum, "Kiv_OrderType"},
-          {"n", ArgKind::Int},
+          {"n", ArgKind::Int, nullptr, 6},
           {"m", ArgKind::Int},
           {"x", ArgKind::Doubles},
           {"pdx", ArgKind::Int},
@@ -224,8 +236,8 @@ const std::vector<RoutineSpec> &routines() {
          "2 2,1,2"},
         {"g02bxc",
          "weighted Pearson correlations, variances and standard deviations",
-         {{"n", ArgKind::Int},
-          {"m", ArgKind::Int},
+         {{"n", ArgKind::Int, nullptr, 5},
+          {"m", ArgKind::Int, nullptr, 4},
           {"x", ArgKind::Doubles},
           {"tdx", ArgKind::Int},
           {"sx", ArgKind::Ints},
@@ -258,7 +270,7 @@ const std::vector<RoutineSpec> &routines() {
          "3 2 1,2,2,1,3,4 2 1,1 null 2 2"},
         {"g02byc",
          "partial correlations of ny variables given nx others",
-         {{"m", ArgKind::Int},
+         {{"m", ArgKind::Int, nullptr, 3},
           {"ny", ArgKind::Int},
           {"nx", ArgKind::Int},
           {"isz", ArgKind::Ints},
@@ -399,7 +411,7 @@ const std::vector<RoutineSpec> &routines() {
         {"g13aac",
          "simple and seasonal differencing of a series",
          {{"x", ArgKind::Doubles},
-          {"nx", ArgKind::Int},
+          {"nx", ArgKind::Int, nullptr, 0},
           {"d", ArgKind::Int},
           {"ds", ArgKind::Int},
           {"s", ArgKind::Int}},
@@ -419,7 +431,7 @@ const std::vector<RoutineSpec> &routines() {
          "1,4,9,16,25 5 1 0 0"},
         {"g13abc",
          "sample autocorrelations and the portmanteau statistic",
-         {{"x", ArgKind::Doubles}, {"nx", ArgKind::Int}, {"nk", ArgKind::Int}},
+         {{"x", ArgKind::Doubles}, {"nx", ArgKind::Int, nullptr, 0}, {"nk", ArgKind::Int}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const int nx = given.integer(1);
@@ -438,7 +450,7 @@ const std::vector<RoutineSpec> &routines() {
          "1,2,3,4 4 1"},
         {"g13acc",
          "partial autocorrelations by the Durbin-Levinson recursion",
-         {{"r", ArgKind::Doubles}, {"nk", ArgKind::Int}, {"nl", ArgKind::Int}},
+         {{"r", ArgKind::Doubles}, {"nk", ArgKind::Int, nullptr, 0}, {"nl", ArgKind::Int}},
          true,
          [](In given, Outputs &printed, KivError *fail) {
              const int nk = given.integer(1);
@@ -517,7 +529,7 @@ const std::vector<RoutineSpec> &routines() {
          "1.0"},
         {"s15adc_v",
          "erfc of each of n values",
-         {{"n", ArgKind::Int}, {"x", ArgKind::Doubles}},
+         {{"n", ArgKind::Int, nullptr, 1}, {"x", ArgKind::Doubles}},
          false,
          [](In given, Outputs &printed, KivError *) {
              const int n = given.integer(0);

@@ -46,6 +46,7 @@ std::string round_trip(double value) {
 }
 
 std::string significant(double value, int digits) {
+    if (std::isnan(value)) return "nan";  // never "-nan": the sign of a NaN means nothing
     char buffer[64];
     std::snprintf(buffer, sizeof buffer, "%.*g", digits, value);
     return buffer;
