@@ -12,6 +12,12 @@
 
 #include <stddef.h>
 
+/* The library's version (the same as the shared library's and the CMake
+   package's, which take it from here). */
+#define KIV_VERSION_MAJOR 0
+#define KIV_VERSION_MINOR 1
+#define KIV_VERSION_PATCH 0
+
 #if defined(_WIN32) || defined(__CYGWIN__)
 #if defined(KIV_BUILDING_LIBRARY) && !defined(KIV_STATIC)
 #define KIV_API __declspec(dllexport)

@@ -33,7 +33,9 @@ constexpr const char *usage_text =
     "                                routine is in this build\n"
     "  <code> ARGS... [+ <code> ARGS...]\n"
     "                                call routines in turn, e.g. kiv g01eac Kiv_LowerTail 1.96\n"
-    "  help [<code>]                 this text, or the arguments of a routine\n"
+    "  help [<code>|<command>]       this text, the arguments of a routine, or the\n"
+    "                                options of a command (also <command> --help)\n"
+    "  --version                     the tool's and the library's version\n"
     "\n"
     "Arrays are given as @file, - (standard input) or a list 1,2,3; optional\n"
     "arrays as null. Enumerations by member name (Kiv_LowerTail) or value.\n";
@@ -82,7 +84,24 @@ const RoutineSpec &routine_or_throw(const std::string &given) {
                      (near.empty() ? "" : "; did you mean " + near + "?"));
 }
 
+constexpr const char *list_usage =
+    "usage: kiv list [--present]\n"
+    "  every export of the interpreter module: its routine, the number of\n"
+    "  arguments the export takes, whether the routine is in this build, and\n"
+    "  whether kiv can call it (--present: only the routines in this build)\n";
+constexpr const char *demo_usage =
+    "usage: kiv demo\n"
+    "  a short tour of the library's chapters\n";
+
+bool wants_help(const std::vector<std::string> &args) {
+    return std::any_of(args.begin(), args.end(),
+                       [](const std::string &arg) { return arg == "--help" || arg == "-h"; });
+}
+
 int run_help(const std::vector<std::string> &args) {
+    if (!args.empty() && args[0] == "describe") return run_describe({"--help"});
+    if (!args.empty() && args[0] == "list") return std::fputs(list_usage, stdout), 0;
+    if (!args.empty() && args[0] == "demo") return std::fputs(demo_usage, stdout), 0;
     if (args.empty()) {
         std::fputs(usage_text, stdout);
         std::printf("\nRoutines:\n");
@@ -147,7 +166,7 @@ int run_list(const std::vector<std::string> &args) {
         else
             throw UsageError("list: unknown option '" + arg + "'");
     }
-    Table table({"export", "routine", "args", "status", "kiv"});
+    Table table({"export", "routine", "export args", "status", "kiv"});
     int present = 0;
     for (const auto &entry : catalogue()) {
         const bool here = entry.present;
@@ -178,6 +197,15 @@ int main(int argc, char **argv) {
         const std::string &command = words[0];
         const std::vector<std::string> rest(words.begin() + 1, words.end());
         if (command == "help" || command == "--help" || command == "-h") return run_help(rest);
+        if (command == "--version") {
+            std::printf("kiv %d.%d.%d\n", KIV_VERSION_MAJOR, KIV_VERSION_MINOR,
+                        KIV_VERSION_PATCH);
+            return 0;
+        }
+        if ((command == "demo" || command == "list") && wants_help(rest))
+            return run_help({command});
+        if (command != "describe" && rest.size() == 1 && wants_help(rest))
+            return run_help({command});  // kiv g01eac --help
         if (command == "demo") {
             if (!rest.empty()) throw UsageError("demo takes no arguments");
             return run_demo();
