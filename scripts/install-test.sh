@@ -54,11 +54,31 @@ pc_flags=$(pkg-config --cflags --libs kiv) || fail "pkg-config --cflags --libs k
 # shellcheck disable=SC2086
 cc $flags "$root/tests/install/consumer.c" $pc_flags -o "$work/consumer_pc" ||
     fail "consumer build with pkg-config failed"
-out=$(LD_LIBRARY_PATH=$prefix/$libdir "$work/consumer_pc")
+# With the run path from pkg-config's libdir: no LD_LIBRARY_PATH needed.
+# shellcheck disable=SC2086
+cc $flags "$root/tests/install/consumer.c" $pc_flags \
+    -Wl,-rpath,"$(pkg-config --variable=libdir kiv)" -o "$work/consumer_pc" ||
+    fail "consumer build with pkg-config failed"
+out=$("$work/consumer_pc")
 [[ $out == "$expected" ]] || fail "consumer_pc printed '$out'"
+# Static, from pkg-config's private libraries.
+# shellcheck disable=SC2086
+cc $flags "$root/tests/install/consumer.c" $(pkg-config --cflags kiv) \
+    "$(pkg-config --variable=libdir kiv)/libkiv.a" $(pkg-config --libs-only-l --libs-only-other --static kiv | sed 's/-lkiv//') \
+    -o "$work/consumer_pc_static" || fail "static consumer build with pkg-config failed"
+out=$("$work/consumer_pc_static")
+[[ $out == "$expected" ]] || fail "consumer_pc_static printed '$out'"
 
-# 3. The installed tool finds its library.
+# 3. Plain compiler flags, as the README shows them.
+# shellcheck disable=SC2086
+cc $flags "$root/tests/install/consumer.c" -I"$prefix/include" -L"$prefix/$libdir" \
+    -Wl,-rpath,"$prefix/$libdir" -lkiv -lm -o "$work/consumer_plain" ||
+    fail "consumer build with plain flags failed"
+out=$("$work/consumer_plain")
+[[ $out == "$expected" ]] || fail "consumer_plain printed '$out'"
+
+# 4. The installed tool finds its library.
 "$prefix/bin/kiv" list | tail -1 | grep -q "exports have their routine" ||
     fail "installed kiv does not run"
 
-echo "install-test: passed (CMake package, static and shared; pkg-config; kiv tool)"
+echo "install-test: passed (CMake package from a C project, static and shared; pkg-config, shared and static; plain flags; kiv tool)"
