@@ -12,10 +12,11 @@ arguments the export takes off the interpreter's list, the result type, the
 chapter group, whether the last argument is a KivError record, whether the
 wrapper substitutes a script error handler, whether the routine is present in
 this build, its C parameters ("type name {annotation}; ..."), whether any
-routine stands behind the export at all, a one-line summary, and an example
+routine stands behind the export at all, a one-line summary, an example
 of its arguments on the kiv command line (run by the reliability tests for
 every routine that their own calls do not cover; "-" keeps a routine off the
-command line).
+command line), and the meaning of each argument ("name: meaning; ...", for
+`kiv help` and the docs).
 
 The annotation of a pointer parameter tells the kiv tool how to fill it:
   {in LEN}    an input array of LEN elements    {opt LEN}  the same, or null
@@ -134,7 +135,7 @@ def read_catalogue(path):
                 continue
             fields = line.rstrip("\n").split("\t")
             (export, routine, args, result, group, record, subst, present, params, exists,
-             summary, example) = fields
+             summary, example, arguments) = fields
             parsed = [parse_param(p) for p in params.split(";") if p.strip()]
             rows.append({
                 "export": export, "routine": routine, "args": int(args),
@@ -142,6 +143,7 @@ def read_catalogue(path):
                 "substitutes": subst == "1", "present": present == "1",
                 "params": [p["decl"] for p in parsed], "parsed": parsed,
                 "exists": exists == "1", "summary": summary, "example": example,
+                "arguments": arguments,
             })
     return rows
 
@@ -171,6 +173,12 @@ def check(rows):
         for p in r["parsed"]:
             if p["role"] and "*" not in p["ctype"]:
                 problems.append(f"{r['routine']}: {p['name']} is annotated but not a pointer")
+        if r["present"] and cli_callable(r):
+            named = [a.split(":")[0].strip() for a in r["arguments"].split(";") if a.strip()]
+            wanted = [p["name"] for p in r["parsed"] if p["ctype"] != "KivError *"]
+            if named != wanted:
+                problems.append(f"{r['routine']}: the arguments column describes {named}, "
+                                f"the parameters are {wanted}")
     return problems
 
 
@@ -422,7 +430,8 @@ def cli_entry(r):
     lines = [f'{{"{r["routine"]}", "{r["summary"]}", {{{", ".join(inputs)}}}, '
              f'{"true" if r["record"] else "false"}, []({params}) {{']
     lines += ["    " + b for b in body]
-    lines.append(f'}}, "{r["example"]}"}},')
+    about = r["arguments"].replace("\\", "\\\\").replace('"', '\\"')
+    lines.append(f'}}, "{r["example"]}", "{about}"}},')
     return lines
 
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <sstream>
 
 #include "routines.hpp"
 #include "text.hpp"
@@ -188,6 +189,22 @@ Inputs parse_inputs(const RoutineSpec &spec, const std::vector<std::string> &wor
     return Inputs(std::move(values));
 }
 
+// The meaning of parameter `name` from the record's "name: meaning; ..."
+// text ("" when none is given).
+std::string meaning_of(const RoutineSpec &spec, const std::string &name) {
+    std::istringstream items(spec.arguments);
+    for (std::string item; std::getline(items, item, ';');) {
+        const auto colon = item.find(':');
+        if (colon == std::string::npos) continue;
+        const auto first = item.find_first_not_of(' ');
+        if (item.substr(first, colon - first) == name) {
+            const auto start = item.find_first_not_of(' ', colon + 1);
+            return start == std::string::npos ? "" : item.substr(start);
+        }
+    }
+    return "";
+}
+
 std::string usage_of(const RoutineSpec &spec) {
     std::string text = spec.name;
     for (const auto &arg : spec.inputs) text += std::string(" ") + arg.name;
@@ -198,7 +215,22 @@ std::string usage_of(const RoutineSpec &spec) {
         if (arg.kind == ArgKind::Enum) text += " (" + joined(accepted_members(arg)) + ")";
         if (arg.kind == ArgKind::Int && arg.sizes >= 0)
             text += std::string(" (- for the length of ") + spec.inputs[arg.sizes].name + ")";
+        const std::string meaning = meaning_of(spec, arg.name);
+        if (!meaning.empty()) text += "\n      " + meaning;
     }
+    // The outputs: the parameters described that are not inputs.
+    std::string outputs;
+    std::istringstream items(spec.arguments);
+    for (std::string item; std::getline(items, item, ';');) {
+        const auto first = item.find_first_not_of(' ');
+        const auto colon = item.find(':');
+        if (first == std::string::npos || colon == std::string::npos) continue;
+        const std::string name = item.substr(first, colon - first);
+        bool input = false;
+        for (const auto &arg : spec.inputs) input = input || name == arg.name;
+        if (!input) outputs += "\n  " + name + ": " + meaning_of(spec, name);
+    }
+    if (!outputs.empty()) text += "\n prints:" + outputs;
     return text;
 }
 

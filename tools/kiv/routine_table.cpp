@@ -52,7 +52,11 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("xmax", xmax);
              printed.scalar("wsum", wsum);
          },
-         "4 1,2,3,10 1,3,0.5,2"},
+         "4 1,2,3,10 1,3,0.5,2",
+         "n: number of observations (n >= 1); x: the observations; wt: weights >= 0, or null for "
+         "unit weights; nvalid: observations with non-zero weight; xmean: weighted mean; xsd: "
+         "standard deviation (divisor n - 1); xskew: skewness; xkurt: excess kurtosis; xmin: "
+         "smallest observation; xmax: largest observation; wsum: sum of the weights"},
         {"g01cec",
          "standard normal deviate with P(X <= x) = p",
          {{"p", ArgKind::Double}},
@@ -61,7 +65,8 @@ const std::vector<RoutineSpec> &routines() {
              const double p = given.real(0);
              printed.scalar("result", g01cec(p, fail));
          },
-         "0.975"},
+         "0.975",
+         "p: lower-tail probability, 0 < p < 1"},
         {"g01eac",
          "standard normal tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -73,7 +78,9 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(1);
              printed.scalar("result", g01eac(tail, x, fail));
          },
-         "Kiv_LowerTail 1.96"},
+         "Kiv_LowerTail 1.96",
+         "tail: which probability: lower P(X <= x), upper P(X >= x), two-tail significance P(|X| "
+         ">= |x|), two-tail confidence P(|X| <= |x|); x: the deviate"},
         {"g01eac_v",
          "g01eac for each of n values",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -89,7 +96,8 @@ const std::vector<RoutineSpec> &routines() {
              g01eac_v(tail, n, x, out.data(), fail);
              printed.vector("out", first(out, n));
          },
-         "Kiv_UpperTail 3 0,1,2"},
+         "Kiv_UpperTail 3 0,1,2",
+         "tail: as for g01eac; n: number of values; x: the deviates; out: the probabilities"},
         {"g01ecc",
          "chi-square tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
@@ -102,7 +110,9 @@ const std::vector<RoutineSpec> &routines() {
              const double df = given.real(2);
              printed.scalar("result", g01ecc(tail, x, df, fail));
          },
-         "Kiv_UpperTail 3.84 1"},
+         "Kiv_UpperTail 3.84 1",
+         "tail: lower P(X <= x) or upper P(X > x); x: the value, x >= 0; df: degrees of freedom, "
+         "df > 0"},
         {"g01efc",
          "gamma tail probability (shape a, scale b)",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
@@ -117,7 +127,9 @@ const std::vector<RoutineSpec> &routines() {
              const double b = given.real(3);
              printed.scalar("result", g01efc(tail, g, a, b, fail));
          },
-         "Kiv_LowerTail 2 3 1"},
+         "Kiv_LowerTail 2 3 1",
+         "tail: lower P(G <= g) or upper P(G > g); g: the value, g >= 0; a: shape, a > 0; b: "
+         "scale, b > 0"},
         {"g01fac",
          "standard normal deviate for a tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -129,7 +141,8 @@ const std::vector<RoutineSpec> &routines() {
              const double p = given.real(1);
              printed.scalar("result", g01fac(tail, p, fail));
          },
-         "Kiv_UpperTail 0.025"},
+         "Kiv_UpperTail 0.025",
+         "tail: which probability p is (as for g01eac); p: the probability, 0 < p < 1"},
         {"g01fac_v",
          "g01fac for each of n values",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -145,7 +158,8 @@ const std::vector<RoutineSpec> &routines() {
              g01fac_v(tail, n, p, out.data(), fail);
              printed.vector("out", first(out, n));
          },
-         "Kiv_LowerTail 2 0.5,0.975"},
+         "Kiv_LowerTail 2 0.5,0.975",
+         "tail: as for g01fac; n: number of values; p: the probabilities; out: the deviates"},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
          {{"n", ArgKind::Int, nullptr, 5},
@@ -168,7 +182,12 @@ const std::vector<RoutineSpec> &routines() {
              g02brc(n, m, x, tdx, svar, sobs, corr.data(), tdc, fail);
              printed.matrix("corr", corr.data(), m, m, tdc);
          },
-         "5 2 1,2,2,1,3,4,4,3,5,5 2 null null 2"},
+         "5 2 1,2,2,1,3,4,4,3,5,5 2 null null 2",
+         "n: number of observations (rows); m: number of variables (columns); x: n by m data, row "
+         "i at x[i*tdx]; tdx: row stride of x, tdx >= m; svar: 1 for each variable to include, 0 "
+         "to leave out, or null for all; sobs: 1 for each observation to include, 0 to leave out, "
+         "or null for all; corr: Kendall below the diagonal, Spearman above it, 1 on it; tdc: row "
+         "stride of corr, tdc >= m"},
         {"g02btc",
          "update means and sums of squares by one weighted observation",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
@@ -194,7 +213,12 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("xbar", first(xbar, m));
              printed.vector("c", first(c, packed(m)));
          },
-         "Kiv_AboutMean 2 1 1,2 1 0 0,0 0,0,0"},
+         "Kiv_AboutMean 2 1 1,2 1 0 0,0 0,0,0",
+         "mean: Kiv_AboutMean for sums about the mean, Kiv_AboutZero about zero; m: number of "
+         "variables; wt: weight of the new observation (>= 0); x: the observation, element j at "
+         "x[j*incx]; incx: stride of x; sw: sum of the weights so far (0 for the first "
+         "observation); xbar: running means; c: running sums of squares and cross-products, upper "
+         "triangle packed by columns"},
         {"g02buc",
          "weighted means and sums of squares and cross-products of a data matrix",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
@@ -222,7 +246,12 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("wmean", first(wmean, m));
              printed.vector("c", first(c, packed(m)));
          },
-         "Kiv_AboutMean Kiv_RowMajor 3 2 1,2,2,1,3,4 2 null"},
+         "Kiv_AboutMean Kiv_RowMajor 3 2 1,2,2,1,3,4 2 null",
+         "mean: Kiv_AboutMean or Kiv_AboutZero; order: Kiv_RowMajor (observation i in row i) or "
+         "Kiv_ColMajor; n: number of observations; m: number of variables; x: the data; pdx: "
+         "leading dimension of x; wt: weights, or null for unit weights; sw: sum of the weights; "
+         "wmean: weighted means; c: sums of squares and cross-products, upper triangle packed by "
+         "columns"},
         {"g02bwc",
          "correlation matrix from packed sums of squares",
          {{"m", ArgKind::Int}, {"r", ArgKind::Doubles}},
@@ -233,7 +262,9 @@ const std::vector<RoutineSpec> &routines() {
              g02bwc(m, r.data(), fail);
              printed.vector("r", first(r, packed(m)));
          },
-         "2 2,1,2"},
+         "2 2,1,2",
+         "m: number of variables; r: sums of squares and cross-products packed by columns on "
+         "entry, correlations on exit"},
         {"g02bxc",
          "weighted Pearson correlations, variances and standard deviations",
          {{"n", ArgKind::Int, nullptr, 5},
@@ -267,7 +298,12 @@ const std::vector<RoutineSpec> &routines() {
              printed.matrix("r", r.data(), m, m, tdr);
              printed.matrix("v", v.data(), m, m, tdv);
          },
-         "3 2 1,2,2,1,3,4 2 1,1 null 2 2"},
+         "3 2 1,2,2,1,3,4 2 1,1 null 2 2",
+         "n: number of observations; m: number of variables; x: n by m data with row stride tdx; "
+         "tdx: row stride of x; sx: 1 to include variable j, 0 to leave it out; wt: weights, or "
+         "null; sw: sum of the weights; wmean: weighted means; std_dev: standard deviations; r: "
+         "correlation matrix (row stride tdr); tdr: row stride of r; v: variance-covariance matrix "
+         "(row stride tdv); tdv: row stride of v"},
         {"g02byc",
          "partial correlations of ny variables given nx others",
          {{"m", ArgKind::Int, nullptr, 3},
@@ -290,12 +326,17 @@ const std::vector<RoutineSpec> &routines() {
              g02byc(m, ny, nx, isz, r, tdr, p.data(), tdp, fail);
              printed.matrix("p", p.data(), ny, ny, tdp);
          },
-         "4 2 1 -1,-1,1,0 1,0.5,0.2,0.1,0.5,1,0.3,0.2,0.2,0.3,1,0.4,0.1,0.2,0.4,1 4 2"},
+         "4 2 1 -1,-1,1,0 1,0.5,0.2,0.1,0.5,1,0.3,0.2,0.2,0.3,1,0.4,0.1,0.2,0.4,1 4 2",
+         "m: number of variables in r; ny: variables to correlate; nx: variables to partial out; "
+         "isz: -1 to correlate variable j, 1 to partial it out, 0 to leave it out; r: m by m "
+         "correlation or covariance matrix; tdr: row stride of r; p: ny by ny partial "
+         "correlations; tdp: row stride of p"},
         {"g05cac",
          "next uniform number in (0,1)",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", g05cac()); },
+         "",
          ""},
         {"g05cbc",
          "seed the basic generator repeatably",
@@ -305,12 +346,14 @@ const std::vector<RoutineSpec> &routines() {
              const int seed = given.integer(0);
              g05cbc(seed);
          },
-         ""},
+         "",
+         "seed: any integer (the same seed gives the same sequence)"},
         {"g05ccc",
          "seed the basic generator from the clock",
          {},
          false,
          [](In, Outputs &, KivError *) { g05ccc(); },
+         "",
          ""},
         {"g05cfc",
          "save the state of the basic generator",
@@ -323,7 +366,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("istate", first(istate, 9));
              printed.vector("xstate", first(xstate, 4));
          },
-         ""},
+         "",
+         "istate: saved integer state; xstate: saved real state"},
         {"g05cgc",
          "restore a state saved by g05cfc",
          {{"istate", ArgKind::Ints}, {"xstate", ArgKind::Doubles}},
@@ -333,7 +377,8 @@ const std::vector<RoutineSpec> &routines() {
              const double *xstate = given.doubles(1, "xstate", 4);
              g05cgc(istate, xstate, fail);
          },
-         ""},
+         "",
+         "istate: state saved by g05cfc; xstate: state saved by g05cfc"},
         {"g05dac",
          "uniform between a and b",
          {{"a", ArgKind::Double}, {"b", ArgKind::Double}},
@@ -343,7 +388,8 @@ const std::vector<RoutineSpec> &routines() {
              const double b = given.real(1);
              printed.scalar("result", g05dac(a, b));
          },
-         "0 1"},
+         "0 1",
+         "a: one end of the interval; b: the other end"},
         {"g05dbc",
          "exponential with mean |a|",
          {{"a", ArgKind::Double}},
@@ -352,7 +398,8 @@ const std::vector<RoutineSpec> &routines() {
              const double a = given.real(0);
              printed.scalar("result", g05dbc(a));
          },
-         "1"},
+         "1",
+         "a: the mean is |a|"},
         {"g05ddc",
          "normal with mean a and standard deviation b",
          {{"a", ArgKind::Double}, {"b", ArgKind::Double}},
@@ -362,7 +409,8 @@ const std::vector<RoutineSpec> &routines() {
              const double b = given.real(1);
              printed.scalar("result", g05ddc(a, b));
          },
-         "0 1"},
+         "0 1",
+         "a: mean; b: standard deviation"},
         {"g05dyc",
          "uniform integer between i and j",
          {{"i", ArgKind::Int}, {"j", ArgKind::Int}},
@@ -372,7 +420,8 @@ const std::vector<RoutineSpec> &routines() {
              const int j = given.integer(1);
              printed.integer("result", g05dyc(i, j));
          },
-         "1 6"},
+         "1 6",
+         "i: smallest value; j: largest value"},
         {"g05kac",
          "uniform from a selectable generator (seed array updated)",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -383,7 +432,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", g05kac(igen, iseed.data()));
              printed.vector("iseed", first(iseed, 4));
          },
-         "1 1,2,3,4"},
+         "1 1,2,3,4",
+         "igen: 0 for the basic generator, 1 to 273 for a Wichmann-Hill generator; iseed: the "
+         "generator state, updated"},
         {"g05kbc",
          "seed a selectable generator repeatably",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -395,7 +446,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.integer("igen", igen);
              printed.vector("iseed", first(iseed, 4));
          },
-         "1 1,2,3,4"},
+         "1 1,2,3,4",
+         "igen: generator number (folded into 0..273); iseed: seeds on entry, the repaired state "
+         "on exit"},
         {"g05kcc",
          "seed a selectable generator from the clock",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -407,7 +460,8 @@ const std::vector<RoutineSpec> &routines() {
              printed.integer("igen", igen);
              printed.vector("iseed", first(iseed, 4));
          },
-         ""},
+         "",
+         "igen: generator number (folded into 0..273); iseed: the state, set from the clock"},
         {"g13aac",
          "simple and seasonal differencing of a series",
          {{"x", ArgKind::Doubles},
@@ -428,7 +482,11 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("xd", first(xd, nxd));
              printed.integer("nxd", nxd);
          },
-         "1,4,9,16,25 5 1 0 0"},
+         "1,4,9,16,25 5 1 0 0",
+         "x: the series; nx: its length; d: order of simple differencing; ds: order of seasonal "
+         "differencing; s: seasonal period (s >= 1 when ds > 0); xd: the differenced series, then "
+         "the values needed to undo the differencing; nxd: length of the differenced series, nx - "
+         "d - ds*s"},
         {"g13abc",
          "sample autocorrelations and the portmanteau statistic",
          {{"x", ArgKind::Doubles}, {"nx", ArgKind::Int, nullptr, 0}, {"nk", ArgKind::Int}},
@@ -447,7 +505,10 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("r", first(r, nk));
              printed.scalar("stat", stat);
          },
-         "1,2,3,4 4 1"},
+         "1,2,3,4 4 1",
+         "x: the series; nx: its length (nx > 1); nk: number of lags (0 < nk < nx); xm: mean; xv: "
+         "variance (divisor nx); r: autocorrelations at lags 1..nk; stat: Box-Pierce statistic nx "
+         "* sum r_k^2"},
         {"g13acc",
          "partial autocorrelations by the Durbin-Levinson recursion",
          {{"r", ArgKind::Doubles}, {"nk", ArgKind::Int, nullptr, 0}, {"nl", ArgKind::Int}},
@@ -466,7 +527,11 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("ar", first(ar, nvl));
              printed.integer("nvl", nvl);
          },
-         "0.5,0.25,0.125 3 3"},
+         "0.5,0.25,0.125 3 3",
+         "r: autocorrelations at lags 1..nk; nk: number of lags; nl: number of partial "
+         "autocorrelations wanted (nl <= nk); p: partial autocorrelations; v: prediction-error "
+         "variance ratios; ar: autoregressive coefficients of the last full-order model; nvl: "
+         "order reached"},
         {"s14aac",
          "gamma function",
          {{"x", ArgKind::Double}},
@@ -475,7 +540,8 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(0);
              printed.scalar("result", s14aac(x, fail));
          },
-         "4.5"},
+         "4.5",
+         "x: the argument, not a pole (0, -1, -2, ...)"},
         {"s14abc",
          "logarithm of the gamma function",
          {{"x", ArgKind::Double}},
@@ -484,7 +550,8 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(0);
              printed.scalar("result", s14abc(x, fail));
          },
-         "-2.5"},
+         "-2.5",
+         "x: the argument, not a pole"},
         {"s14bac",
          "regularized incomplete gamma functions P(a,x) and Q(a,x)",
          {{"a", ArgKind::Double}, {"x", ArgKind::Double}, {"tol", ArgKind::Double}},
@@ -499,7 +566,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("p", p);
              printed.scalar("q", q);
          },
-         "2 3 0"},
+         "2 3 0",
+         "a: shape, a > 0; x: x >= 0; tol: relative accuracy asked, 0 for the best; p: P(a, x); q: "
+         "Q(a, x)"},
         {"s15abc",
          "normal lower tail P(x)",
          {{"x", ArgKind::Double}},
@@ -508,7 +577,8 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(0);
              printed.scalar("result", s15abc(x));
          },
-         "1.96"},
+         "1.96",
+         "x: the argument"},
         {"s15acc",
          "normal upper tail Q(x)",
          {{"x", ArgKind::Double}},
@@ -517,7 +587,8 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(0);
              printed.scalar("result", s15acc(x));
          },
-         "1.96"},
+         "1.96",
+         "x: the argument"},
         {"s15adc",
          "complementary error function erfc(x)",
          {{"x", ArgKind::Double}},
@@ -526,7 +597,8 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(0);
              printed.scalar("result", s15adc(x));
          },
-         "1.0"},
+         "1.0",
+         "x: the argument"},
         {"s15adc_v",
          "erfc of each of n values",
          {{"n", ArgKind::Int, nullptr, 1}, {"x", ArgKind::Doubles}},
@@ -538,7 +610,8 @@ const std::vector<RoutineSpec> &routines() {
              s15adc_v(n, x, out.data());
              printed.vector("out", first(out, n));
          },
-         "3 0,1,2"},
+         "3 0,1,2",
+         "n: number of values; x: the arguments; out: erfc of each"},
         {"s15aec",
          "error function erf(x)",
          {{"x", ArgKind::Double}},
@@ -547,30 +620,35 @@ const std::vector<RoutineSpec> &routines() {
              const double x = given.real(0);
              printed.scalar("result", s15aec(x));
          },
-         "0.5"},
+         "0.5",
+         "x: the argument"},
         {"x02ajc",
          "machine precision",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", x02ajc()); },
+         "",
          ""},
         {"x02akc",
          "smallest positive normalised double",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", x02akc()); },
+         "",
          ""},
         {"x02alc",
          "largest finite double",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", x02alc()); },
+         "",
          ""},
         {"x05aac",
          "calendar time in seconds",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.integer("result", x05aac()); },
+         "",
          ""},
     };
     return table;

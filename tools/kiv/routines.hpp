@@ -125,7 +125,8 @@ struct RoutineSpec {
     std::vector<ArgSpec> inputs;
     bool has_record;  // takes a KivError record
     void (*call)(const Inputs &in, Outputs &out, KivError *fail);
-    const char *example;  // its arguments in a typical call ("" for none)
+    const char *example;    // its arguments in a typical call ("" for none)
+    const char *arguments;  // "name: meaning; ..." for every parameter
 };
 
 // Generated from the routine records (routine_table.cpp): every routine the
