@@ -814,9 +814,13 @@ KIV_API double x02ajc(void); /* machine precision, 2^-53 (1 + 2^-52) */
 KIV_API double x02akc(void); /* smallest normalised double, 2^-1022 */
 KIV_API double x02alc(void); /* largest finite double */
 
+/* Workspace: allocate, reallocate and free (clearing the pointer) blocks through
+   the library's allocator. */
 KIV_API void *x04bbc(size_t size);
 KIV_API void *x04bcc(void *block, size_t size);
 KIV_API void x04bdc(void **block);
+/* Output units: append a text record to a file; the unit number for error
+   messages (flag 0 asks, which always answers 6). */
 KIV_API void x04bay(const char *file, const char *text);
 KIV_API void x04aaf(int flag, int *unit);
 
@@ -825,6 +829,8 @@ KIV_API double s15abc(double x); /* normal lower tail P(x) */
 KIV_API double s15acc(double x); /* normal upper tail Q(x) */
 KIV_API double s15adc(double x); /* erfc(x) */
 KIV_API double s15aec(double x); /* erf(x) */
+/* Regularized incomplete gamma functions P(a, x) and Q(a, x), a > 0, x >= 0,
+   to the relative accuracy tol (0 = best). */
 KIV_API void s14bac(double a, double x, double tol, double *p, double *q, KivError *fail);
 KIV_API double s14aac(double x, KivError *fail); /* gamma function */
 KIV_API double s14abc(double x, KivError *fail); /* log of the gamma function */
@@ -836,51 +842,88 @@ KIV_API void g01eac_v(Kiv_Tail tail, int n, const double x[], double out[], KivE
 KIV_API void g01fac_v(Kiv_Tail tail, int n, const double p[], double out[], KivError *fail);
 
 /* ---- distributions and descriptive statistics ---------------------------- */
+/* Standard normal tail probability: lower P(X <= x), upper P(X >= x),
+   two-tail significance P(|X| >= |x|) or confidence P(|X| <= |x|). */
 KIV_API double g01eac(Kiv_Tail tail, double x, KivError *fail);
+/* Standard normal deviate for a probability p of the given tail, 0 < p < 1. */
 KIV_API double g01fac(Kiv_Tail tail, double p, KivError *fail);
+/* Standard normal deviate x with P(X <= x) = p. */
 KIV_API double g01cec(double p, KivError *fail);
+/* Chi-square tail probability (lower or upper), x >= 0, df > 0 degrees of
+   freedom, to relative accuracy 5e-06. */
 KIV_API double g01ecc(Kiv_Tail tail, double x, double df, KivError *fail);
+/* Gamma tail probability (lower or upper), shape a > 0, scale b > 0. */
 KIV_API double g01efc(Kiv_Tail tail, double g, double a, double b, KivError *fail);
+/* Weighted mean, standard deviation, skewness, excess kurtosis (divisor n - 1
+   for all three moments), extremes and the sum of the weights, in one pass;
+   wt may be null for unit weights. */
 KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, double *xmean,
                     double *xsd, double *xskew, double *xkurt, double *xmin, double *xmax,
                     double *wsum, KivError *fail);
 
 /* ---- random numbers -------------------------------------------------------- */
+/* The next uniform number in (0, 1) of the thread's basic generator. */
 KIV_API double g05cac(void);
+/* The basic generator's state for a thread (internal use of the other G05
+   routines). */
 KIV_API void g05caz(int *code, int **pieces, double **carries, double **buffer, double **scale);
+/* Seed the basic generator repeatably, or from the clock. */
 KIV_API void g05cbc(int seed);
 KIV_API void g05ccc(void);
+/* Save the basic generator's state, and restore it (checked). */
 KIV_API void g05cfc(int istate[9], double xstate[4]);
 KIV_API void g05cgc(const int istate[9], const double xstate[4], KivError *fail);
+/* Calendar time in seconds. */
 KIV_API long x05aac(void);
+/* Variates: uniform between a and b, exponential with mean |a|, normal with
+   mean a and standard deviation b, uniform integer between i and j. */
 KIV_API double g05dac(double a, double b);
 KIV_API double g05dbc(double a);
 KIV_API double g05ddc(double a, double b);
 KIV_API int g05dyc(int i, int j);
+/* Caller-held generators: igen 0 the basic generator, 1..273 a Wichmann-Hill
+   combined generator; the state lives in iseed. A uniform from it, and its
+   repeatable and clock seeding. */
 KIV_API double g05kac(int igen, int iseed[4]);
 KIV_API void g05kbc(int *igen, int iseed[4]);
 KIV_API void g05kcc(int *igen, int iseed[4]);
 
 /* ---- correlation ------------------------------------------------------------ */
+/* Kendall (below the diagonal) and Spearman (above) rank correlations of the
+   selected variables over the selected observations (svar, sobs may be null). */
 KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[], const int sobs[],
                     double corr[], int tdc, KivError *fail);
+/* Update weighted means and sums of squares and cross-products (packed) by
+   one observation. */
 KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int incx, double *sw,
                     double xbar[], double c[], KivError *fail);
+/* Weighted means and sums of squares and cross-products of a data matrix. */
 KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const double x[],
                     int pdx, const double wt[], double *sw, double wmean[], double c[],
                     KivError *fail);
+/* Correlation matrix from packed sums of squares and cross-products, in place. */
 KIV_API void g02bwc(int m, double r[], KivError *fail);
+/* Weighted Pearson correlations, variance-covariance matrix, means and
+   standard deviations of the selected variables. */
 KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[], const double wt[],
                     double *sw, double wmean[], double std[], double r[], int tdr, double v[],
                     int tdv, KivError *fail);
+/* Partial correlations of ny variables given nx others (isz: -1 correlate,
+   1 partial out, 0 leave out). */
 KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr, double p[],
                     int tdp, KivError *fail);
 
 /* ---- time series -------------------------------------------------------------- */
+/* d simple and ds seasonal differences of lag s; xd holds the differenced
+   series followed by the values needed to undo it (room for nx values). */
 KIV_API void g13aac(const double x[], int nx, int d, int ds, int s, double xd[], int *nxd,
                     KivError *fail);
+/* Mean, variance, autocorrelations at lags 1..nk and the Box-Pierce
+   statistic. */
 KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv, double r[],
                     double *stat, KivError *fail);
+/* Partial autocorrelations, prediction-error variance ratios and
+   autoregressive coefficients from autocorrelations (Durbin-Levinson). */
 KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[], double ar[], int *nvl,
                     KivError *fail);
 

@@ -24,7 +24,7 @@ cmake --install "$build" --prefix "$prefix" >"$work/install.log" || {
 libdir=$(cd "$prefix" && dirname "$(find . -name 'libkiv.a' | head -1)")
 libdir=${libdir#./}
 [[ -n $libdir ]] || fail "libkiv.a not installed"
-for file in include/kiv.h "$libdir/libkiv.a" "$libdir/libkiv.so" bin/kiv \
+for file in include/kiv.h "$libdir/libkiv.a" "$libdir/libkiv.so" bin/kiv share/man/man1/kiv.1 \
     "$libdir/cmake/kiv/kivConfig.cmake" "$libdir/pkgconfig/kiv.pc"; do
     [[ -e $prefix/$file ]] || fail "$file not installed"
 done
