@@ -186,6 +186,9 @@ KIV_API void kiv_report_error(const char *message, int code, const char *routine
         std::memmove(fail->message, message, length);
         fail->message[length] = '\0';
     } else if (code != 0) {
+        // What the program wrote to standard output before is not lost in
+        // its buffer (a pipe or a file is fully buffered).
+        std::fflush(stdout);
         std::fprintf(stderr, "...Program Aborted\n");
         std::fflush(stderr);
         std::abort();
