@@ -27,6 +27,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include <utility>
+
 #include "kiv.h"
 #include "runtime/report.hpp"
 
@@ -70,10 +72,21 @@ KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, dou
     if (!licence_check()) return;
     clear_code(fail);
     if (n <= 0) {
-        *nvalid = 0;
+        if (nvalid != nullptr) *nvalid = 0;
         report_template(fail, "g01aac", NE_INT_ARG_LE, "n", "0", "n", static_cast<long>(n));
         return;
     }
+    // A required array or output given as a null pointer is reported by name
+    // (wt alone may be null: unit weights).
+    const std::pair<const void *, const char *> required[] = {
+        {x, "x"},         {nvalid, "nvalid"}, {xmean, "xmean"}, {xsd, "xsd"},
+        {xskew, "xskew"}, {xkurt, "xkurt"},   {xmin, "xmin"},   {xmax, "xmax"},
+        {wsum, "wsum"}};
+    for (const auto &[pointer, name] : required)
+        if (pointer == nullptr) {
+            report_template(fail, "g01aac", NE_BAD_PARAM, name);
+            return;
+        }
 
     int valid = n;
     int first = 0;

@@ -129,6 +129,8 @@ int clock_seed(int argument) {
 extern "C" {
 
 KIV_API double g05kac(int igen, int iseed[4]) {
+    if (iseed == nullptr) [[unlikely]]
+        return 0.0;
     const auto g = static_cast<unsigned>(igen) - 1u;
     if (g < static_cast<unsigned>(generator_count)) [[likely]]
         return wichmann_hill_step(igen, iseed);

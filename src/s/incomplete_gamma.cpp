@@ -423,7 +423,21 @@ KIV_API void s14bac(double a, double x, double tol, double *p, double *q, KivErr
     using kiv::special::IncompleteGammaStatus;
     if (!licence_check()) return;
     clear_code(fail);
-    switch (kiv::special::incomplete_gamma(a, x, tol, p, q)) {
+    // The kernel writes into locals, so that the null outputs are reported
+    // after the argument checks and p, q stay untouched after any fault.
+    double lower = 0.0, upper = 0.0;
+    const IncompleteGammaStatus status = kiv::special::incomplete_gamma(a, x, tol, &lower, &upper);
+    if (status != IncompleteGammaStatus::a_not_positive &&
+        status != IncompleteGammaStatus::x_negative &&
+        status != IncompleteGammaStatus::both_infinite && (p == nullptr || q == nullptr)) {
+        report_template(fail, "s14bac", NE_BAD_PARAM, p == nullptr ? "p" : "q");
+        return;
+    }
+    if (status == IncompleteGammaStatus::ok || status == IncompleteGammaStatus::not_converged) {
+        *p = lower;
+        *q = upper;
+    }
+    switch (status) {
         case IncompleteGammaStatus::a_not_positive:
             report_template(fail, "s14bac", NE_REAL_ARG_LE, "a", "0.0", "a", a);
             return;
