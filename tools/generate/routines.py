@@ -15,8 +15,9 @@ this build, its C parameters ("type name {annotation}; ..."), whether any
 routine stands behind the export at all, a one-line summary, an example
 of its arguments on the kiv command line (run by the reliability tests for
 every routine that their own calls do not cover; "-" keeps a routine off the
-command line), and the meaning of each argument ("name: meaning; ...", for
-`kiv help` and the docs).
+command line), the meaning of each argument ("name: meaning; ...", for
+`kiv help` and the docs), and its faults in the order they are checked
+("condition: CODE; ...").
 
 The annotation of a pointer parameter tells the kiv tool how to fill it:
   {in LEN}    an input array of LEN elements    {opt LEN}  the same, or null
@@ -135,7 +136,7 @@ def read_catalogue(path):
                 continue
             fields = line.rstrip("\n").split("\t")
             (export, routine, args, result, group, record, subst, present, params, exists,
-             summary, example, arguments) = fields
+             summary, example, arguments, faults) = fields
             parsed = [parse_param(p) for p in params.split(";") if p.strip()]
             rows.append({
                 "export": export, "routine": routine, "args": int(args),
@@ -143,7 +144,7 @@ def read_catalogue(path):
                 "substitutes": subst == "1", "present": present == "1",
                 "params": [p["decl"] for p in parsed], "parsed": parsed,
                 "exists": exists == "1", "summary": summary, "example": example,
-                "arguments": arguments,
+                "arguments": arguments, "faults": faults,
             })
     return rows
 
@@ -175,6 +176,8 @@ def check(rows):
                 problems.append(f"{r['routine']}: {p['name']} is annotated but not a pointer")
         if r["present"] and cli_callable(r):
             named = [a.split(":")[0].strip() for a in r["arguments"].split(";") if a.strip()]
+            if named and named[-1] == "result":
+                named.pop()  # the meaning of the result, after the parameters
             wanted = [p["name"] for p in r["parsed"] if p["ctype"] != "KivError *"]
             if named != wanted:
                 problems.append(f"{r['routine']}: the arguments column describes {named}, "
@@ -430,8 +433,12 @@ def cli_entry(r):
     lines = [f'{{"{r["routine"]}", "{r["summary"]}", {{{", ".join(inputs)}}}, '
              f'{"true" if r["record"] else "false"}, []({params}) {{']
     lines += ["    " + b for b in body]
-    about = r["arguments"].replace("\\", "\\\\").replace('"', '\\"')
-    lines.append(f'}}, "{r["example"]}", "{about}"}},')
+    def quoted(text):
+        return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
+    c_result = {"pointer": "void *"}.get(r["result"], r["result"])
+    signature = f"{c_result} {r['routine']}({', '.join(p['decl'] for p in r['parsed']) or 'void'})"
+    lines.append(f'}}, {quoted(r["example"])}, {quoted(r["arguments"])}, '
+                 f'{quoted(signature)}, {quoted(r["faults"])}}},')
     return lines
 
 

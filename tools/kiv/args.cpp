@@ -231,6 +231,13 @@ std::string usage_of(const RoutineSpec &spec) {
         if (!input) outputs += "\n  " + name + ": " + meaning_of(spec, name);
     }
     if (!outputs.empty()) text += "\n prints:" + outputs;
+    text += std::string("\n C: ") + spec.signature;
+    if (*spec.faults != '\0') {
+        text += "\n faults, in the order checked:";
+        std::istringstream faults(spec.faults);
+        for (std::string fault; std::getline(faults, fault, ';');)
+            text += "\n  " + fault.substr(fault.find_first_not_of(' '));
+    }
     return text;
 }
 

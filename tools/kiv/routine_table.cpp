@@ -56,7 +56,13 @@ const std::vector<RoutineSpec> &routines() {
          "n: number of observations (n >= 1); x: the observations; wt: weights >= 0, or null for "
          "unit weights; nvalid: observations with non-zero weight; xmean: weighted mean; xsd: "
          "standard deviation (divisor n - 1); xskew: skewness; xkurt: excess kurtosis; xmin: "
-         "smallest observation; xmax: largest observation; wsum: sum of the weights"},
+         "smallest observation; xmax: largest observation; wsum: sum of the weights",
+         "void g01aac(int n, const double *x, const double *wt, int *nvalid, double *xmean, double "
+         "*xsd, double *xskew, double *xkurt, double *xmin, double *xmax, double *wsum, KivError "
+         "*fail)",
+         "n <= 0: NE_INT_ARG_LE; a null x or output: NE_BAD_PARAM; wt[i] < 0 or NaN: "
+         "NE_REAL_ARG_LT; all weights 0: NE_CASES_ZERO; one valid observation: NE_CASES_ONE "
+         "(warning)"},
         {"g01cec",
          "standard normal deviate with P(X <= x) = p",
          {{"p", ArgKind::Double}},
@@ -66,7 +72,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", g01cec(p, fail));
          },
          "0.975",
-         "p: lower-tail probability, 0 < p < 1"},
+         "p: lower-tail probability, 0 < p < 1; result: the deviate x",
+         "double g01cec(double p, KivError *fail)",
+         "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE"},
         {"g01eac",
          "standard normal tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -80,7 +88,9 @@ const std::vector<RoutineSpec> &routines() {
          },
          "Kiv_LowerTail 1.96",
          "tail: which probability: lower P(X <= x), upper P(X >= x), two-tail significance P(|X| "
-         ">= |x|), two-tail confidence P(|X| <= |x|); x: the deviate"},
+         ">= |x|), two-tail confidence P(|X| <= |x|); x: the deviate; result: the probability",
+         "double g01eac(Kiv_Tail tail, double x, KivError *fail)",
+         "tail not one of the four: NE_BAD_PARAM"},
         {"g01eac_v",
          "g01eac for each of n values",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -97,7 +107,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("out", first(out, n));
          },
          "Kiv_UpperTail 3 0,1,2",
-         "tail: as for g01eac; n: number of values; x: the deviates; out: the probabilities"},
+         "tail: as for g01eac; n: number of values; x: the deviates; out: the probabilities",
+         "void g01eac_v(Kiv_Tail tail, int n, const double *x, double *out, KivError *fail)",
+         "n < 0: NE_INT; a null array: NE_BAD_PARAM; bad tail: NE_BAD_PARAM"},
         {"g01ecc",
          "chi-square tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
@@ -112,7 +124,10 @@ const std::vector<RoutineSpec> &routines() {
          },
          "Kiv_UpperTail 3.84 1",
          "tail: lower P(X <= x) or upper P(X > x); x: the value, x >= 0; df: degrees of freedom, "
-         "df > 0"},
+         "df > 0; result: the tail probability",
+         "double g01ecc(Kiv_Tail tail, double x, double df, KivError *fail)",
+         "x < 0: NE_REAL_ARG_LT; df <= 0: NE_REAL_ARG_LE; bad tail: NE_BAD_PARAM; no convergence: "
+         "NE_ALG_NOT_CONV"},
         {"g01efc",
          "gamma tail probability (shape a, scale b)",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
@@ -129,7 +144,10 @@ const std::vector<RoutineSpec> &routines() {
          },
          "Kiv_LowerTail 2 3 1",
          "tail: lower P(G <= g) or upper P(G > g); g: the value, g >= 0; a: shape, a > 0; b: "
-         "scale, b > 0"},
+         "scale, b > 0; result: the tail probability",
+         "double g01efc(Kiv_Tail tail, double g, double a, double b, KivError *fail)",
+         "bad tail: NE_BAD_PARAM; g < 0: NE_REAL_ARG_LT; a <= 0, b <= 0: NE_REAL_ARG_LE; no "
+         "convergence: NE_ALG_NOT_CONV"},
         {"g01fac",
          "standard normal deviate for a tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -142,7 +160,10 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", g01fac(tail, p, fail));
          },
          "Kiv_UpperTail 0.025",
-         "tail: which probability p is (as for g01eac); p: the probability, 0 < p < 1"},
+         "tail: which probability p is (as for g01eac); p: the probability, 0 < p < 1; result: the "
+         "deviate",
+         "double g01fac(Kiv_Tail tail, double p, KivError *fail)",
+         "bad tail: NE_BAD_PARAM; p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE"},
         {"g01fac_v",
          "g01fac for each of n values",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -159,7 +180,10 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("out", first(out, n));
          },
          "Kiv_LowerTail 2 0.5,0.975",
-         "tail: as for g01fac; n: number of values; p: the probabilities; out: the deviates"},
+         "tail: as for g01fac; n: number of values; p: the probabilities; out: the deviates",
+         "void g01fac_v(Kiv_Tail tail, int n, const double *p, double *out, KivError *fail)",
+         "n < 0: NE_INT; a null array: NE_BAD_PARAM; bad tail: NE_BAD_PARAM; a bad p: "
+         "NE_REAL_ARG_LE or NE_REAL_ARG_GE naming its index"},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
          {{"n", ArgKind::Int, nullptr, 5},
@@ -187,7 +211,12 @@ const std::vector<RoutineSpec> &routines() {
          "i at x[i*tdx]; tdx: row stride of x, tdx >= m; svar: 1 for each variable to include, 0 "
          "to leave out, or null for all; sobs: 1 for each observation to include, 0 to leave out, "
          "or null for all; corr: Kendall below the diagonal, Spearman above it, 1 on it; tdc: row "
-         "stride of corr, tdc >= m"},
+         "stride of corr, tdc >= m",
+         "void g02brc(int n, int m, const double *x, int tdx, const int *svar, const int *sobs, "
+         "double *corr, int tdc, KivError *fail)",
+         "n < 2, m < 1, tdx or tdc < m: NE_INT (and kin); a null array: NE_BAD_PARAM; svar or sobs "
+         "not 0 or 1: NE_INT_ARRAY_1; fewer than 2 selected: NE_SVAR_LOW, NE_SOBS_LOW; no memory: "
+         "NE_ALLOC_FAIL"},
         {"g02btc",
          "update means and sums of squares by one weighted observation",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
@@ -218,7 +247,11 @@ const std::vector<RoutineSpec> &routines() {
          "variables; wt: weight of the new observation (>= 0); x: the observation, element j at "
          "x[j*incx]; incx: stride of x; sw: sum of the weights so far (0 for the first "
          "observation); xbar: running means; c: running sums of squares and cross-products, upper "
-         "triangle packed by columns"},
+         "triangle packed by columns",
+         "void g02btc(Kiv_SumSquare mean, int m, double wt, const double *x, int incx, double *sw, "
+         "double *xbar, double *c, KivError *fail)",
+         "bad mean: NE_BAD_PARAM; m < 1, incx < 1: NE_INT; wt < 0: NE_REAL; sw < 0: NE_SUM_WEIGHT; "
+         "a null array: NE_BAD_PARAM"},
         {"g02buc",
          "weighted means and sums of squares and cross-products of a data matrix",
          {{"mean", ArgKind::Enum, "Kiv_SumSquare"},
@@ -251,7 +284,11 @@ const std::vector<RoutineSpec> &routines() {
          "Kiv_ColMajor; n: number of observations; m: number of variables; x: the data; pdx: "
          "leading dimension of x; wt: weights, or null for unit weights; sw: sum of the weights; "
          "wmean: weighted means; c: sums of squares and cross-products, upper triangle packed by "
-         "columns"},
+         "columns",
+         "void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const double *x, int "
+         "pdx, const double *wt, double *sw, double *wmean, double *c, KivError *fail)",
+         "bad mean or order: NE_BAD_PARAM; n, m, pdx out of range: NE_INT, NE_INT_2; a negative "
+         "weight: NE_REAL_ARRAY_ELEM_CONS; a null array: NE_BAD_PARAM"},
         {"g02bwc",
          "correlation matrix from packed sums of squares",
          {{"m", ArgKind::Int}, {"r", ArgKind::Doubles}},
@@ -264,7 +301,9 @@ const std::vector<RoutineSpec> &routines() {
          },
          "2 2,1,2",
          "m: number of variables; r: sums of squares and cross-products packed by columns on "
-         "entry, correlations on exit"},
+         "entry, correlations on exit",
+         "void g02bwc(int m, double *r, KivError *fail)",
+         "m < 1: NE_INT; a zero variance: NE_ZERO_VARIANCE; a null array: NE_BAD_PARAM"},
         {"g02bxc",
          "weighted Pearson correlations, variances and standard deviations",
          {{"n", ArgKind::Int, nullptr, 5},
@@ -303,7 +342,14 @@ const std::vector<RoutineSpec> &routines() {
          "tdx: row stride of x; sx: 1 to include variable j, 0 to leave it out; wt: weights, or "
          "null; sw: sum of the weights; wmean: weighted means; std_dev: standard deviations; r: "
          "correlation matrix (row stride tdr); tdr: row stride of r; v: variance-covariance matrix "
-         "(row stride tdv); tdv: row stride of v"},
+         "(row stride tdv); tdv: row stride of v",
+         "void g02bxc(int n, int m, const double *x, int tdx, const int *sx, const double *wt, "
+         "double *sw, double *wmean, double *std_dev, double *r, int tdr, double *v, int tdv, "
+         "KivError *fail)",
+         "n < 2: NE_INT_ARG_LE; m < 2, strides < m: NE_INT (and kin); a null array: NE_BAD_PARAM; "
+         "negative weight: NE_NEG_WEIGHT; sx not 0 or 1: NE_NEG_SX, NE_POS_SX; weights summing "
+         "below 1: NE_SW_LT_ONE; a zero variance: NE_VAR_EQ_ZERO (warning); no memory: "
+         "NE_ALLOC_FAIL"},
         {"g02byc",
          "partial correlations of ny variables given nx others",
          {{"m", ArgKind::Int, nullptr, 3},
@@ -330,13 +376,20 @@ const std::vector<RoutineSpec> &routines() {
          "m: number of variables in r; ny: variables to correlate; nx: variables to partial out; "
          "isz: -1 to correlate variable j, 1 to partial it out, 0 to leave it out; r: m by m "
          "correlation or covariance matrix; tdr: row stride of r; p: ny by ny partial "
-         "correlations; tdp: row stride of p"},
+         "correlations; tdp: row stride of p",
+         "void g02byc(int m, int ny, int nx, const int *isz, const double *r, int tdr, double *p, "
+         "int tdp, KivError *fail)",
+         "ny, nx, m inconsistent: NE_3_INT_ARG_CONS; wrong counts in isz: NE_BAD_NY_SET, "
+         "NE_BAD_NX_SET; a null array: NE_BAD_PARAM; r not positive definite: NE_COR_MAT_POSDEF; "
+         "rank deficient: NE_COR_MAT_RANK; no memory: NE_ALLOC_FAIL"},
         {"g05cac",
          "next uniform number in (0,1)",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", g05cac()); },
          "",
+         "result: a uniform number in (0, 1)",
+         "double g05cac(void)",
          ""},
         {"g05cbc",
          "seed the basic generator repeatably",
@@ -347,13 +400,17 @@ const std::vector<RoutineSpec> &routines() {
              g05cbc(seed);
          },
          "",
-         "seed: any integer (the same seed gives the same sequence)"},
+         "seed: any integer (the same seed gives the same sequence)",
+         "void g05cbc(int seed)",
+         ""},
         {"g05ccc",
          "seed the basic generator from the clock",
          {},
          false,
          [](In, Outputs &, KivError *) { g05ccc(); },
          "",
+         "",
+         "void g05ccc(void)",
          ""},
         {"g05cfc",
          "save the state of the basic generator",
@@ -367,7 +424,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("xstate", first(xstate, 4));
          },
          "",
-         "istate: saved integer state; xstate: saved real state"},
+         "istate: saved integer state; xstate: saved real state",
+         "void g05cfc(int *istate, double *xstate)",
+         ""},
         {"g05cgc",
          "restore a state saved by g05cfc",
          {{"istate", ArgKind::Ints}, {"xstate", ArgKind::Doubles}},
@@ -378,7 +437,9 @@ const std::vector<RoutineSpec> &routines() {
              g05cgc(istate, xstate, fail);
          },
          "",
-         "istate: state saved by g05cfc; xstate: state saved by g05cfc"},
+         "istate: state saved by g05cfc; xstate: state saved by g05cfc",
+         "void g05cgc(const int *istate, const double *xstate, KivError *fail)",
+         "a null array or a failed checksum: NE_STATE_CORRUPT; no memory: NE_ALLOC_FAIL"},
         {"g05dac",
          "uniform between a and b",
          {{"a", ArgKind::Double}, {"b", ArgKind::Double}},
@@ -389,7 +450,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", g05dac(a, b));
          },
          "0 1",
-         "a: one end of the interval; b: the other end"},
+         "a: one end of the interval; b: the other end; result: a uniform number between a and b",
+         "double g05dac(double a, double b)",
+         ""},
         {"g05dbc",
          "exponential with mean |a|",
          {{"a", ArgKind::Double}},
@@ -399,7 +462,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", g05dbc(a));
          },
          "1",
-         "a: the mean is |a|"},
+         "a: the mean is |a|; result: an exponential variate",
+         "double g05dbc(double a)",
+         ""},
         {"g05ddc",
          "normal with mean a and standard deviation b",
          {{"a", ArgKind::Double}, {"b", ArgKind::Double}},
@@ -410,7 +475,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", g05ddc(a, b));
          },
          "0 1",
-         "a: mean; b: standard deviation"},
+         "a: mean; b: standard deviation; result: a normal variate",
+         "double g05ddc(double a, double b)",
+         ""},
         {"g05dyc",
          "uniform integer between i and j",
          {{"i", ArgKind::Int}, {"j", ArgKind::Int}},
@@ -421,7 +488,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.integer("result", g05dyc(i, j));
          },
          "1 6",
-         "i: smallest value; j: largest value"},
+         "i: smallest value; j: largest value; result: an integer between i and j",
+         "int g05dyc(int i, int j)",
+         ""},
         {"g05kac",
          "uniform from a selectable generator (seed array updated)",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -434,7 +503,9 @@ const std::vector<RoutineSpec> &routines() {
          },
          "1 1,2,3,4",
          "igen: 0 for the basic generator, 1 to 273 for a Wichmann-Hill generator; iseed: the "
-         "generator state, updated"},
+         "generator state, updated; result: a uniform number in (0, 1)",
+         "double g05kac(int igen, int *iseed)",
+         ""},
         {"g05kbc",
          "seed a selectable generator repeatably",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -448,7 +519,9 @@ const std::vector<RoutineSpec> &routines() {
          },
          "1 1,2,3,4",
          "igen: generator number (folded into 0..273); iseed: seeds on entry, the repaired state "
-         "on exit"},
+         "on exit",
+         "void g05kbc(int *igen, int *iseed)",
+         ""},
         {"g05kcc",
          "seed a selectable generator from the clock",
          {{"igen", ArgKind::Int}, {"iseed", ArgKind::Ints}},
@@ -461,7 +534,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("iseed", first(iseed, 4));
          },
          "",
-         "igen: generator number (folded into 0..273); iseed: the state, set from the clock"},
+         "igen: generator number (folded into 0..273); iseed: the state, set from the clock",
+         "void g05kcc(int *igen, int *iseed)",
+         ""},
         {"g13aac",
          "simple and seasonal differencing of a series",
          {{"x", ArgKind::Doubles},
@@ -486,7 +561,10 @@ const std::vector<RoutineSpec> &routines() {
          "x: the series; nx: its length; d: order of simple differencing; ds: order of seasonal "
          "differencing; s: seasonal period (s >= 1 when ds > 0); xd: the differenced series, then "
          "the values needed to undo the differencing; nxd: length of the differenced series, nx - "
-         "d - ds*s"},
+         "d - ds*s",
+         "void g13aac(const double *x, int nx, int d, int ds, int s, double *xd, int *nxd, "
+         "KivError *fail)",
+         "nx, d, ds, s out of range: NE_INT, NE_INT_2, NE_INT_4; a null array: NE_BAD_PARAM"},
         {"g13abc",
          "sample autocorrelations and the portmanteau statistic",
          {{"x", ArgKind::Doubles}, {"nx", ArgKind::Int, nullptr, 0}, {"nk", ArgKind::Int}},
@@ -508,7 +586,11 @@ const std::vector<RoutineSpec> &routines() {
          "1,2,3,4 4 1",
          "x: the series; nx: its length (nx > 1); nk: number of lags (0 < nk < nx); xm: mean; xv: "
          "variance (divisor nx); r: autocorrelations at lags 1..nk; stat: Box-Pierce statistic nx "
-         "* sum r_k^2"},
+         "* sum r_k^2",
+         "void g13abc(const double *x, int nx, int nk, double *xm, double *xv, double *r, double "
+         "*stat, KivError *fail)",
+         "nx <= 1: NE_INT_ARG_LE; nk <= 0: NE_INT_ARG_LE; nx <= nk: NE_2_INT_ARG_LE; a null array: "
+         "NE_BAD_PARAM; constant series: NE_TIME_SERIES_IDEN; no memory: NE_ALLOC_FAIL"},
         {"g13acc",
          "partial autocorrelations by the Durbin-Levinson recursion",
          {{"r", ArgKind::Doubles}, {"nk", ArgKind::Int, nullptr, 0}, {"nl", ArgKind::Int}},
@@ -531,7 +613,12 @@ const std::vector<RoutineSpec> &routines() {
          "r: autocorrelations at lags 1..nk; nk: number of lags; nl: number of partial "
          "autocorrelations wanted (nl <= nk); p: partial autocorrelations; v: prediction-error "
          "variance ratios; ar: autoregressive coefficients of the last full-order model; nvl: "
-         "order reached"},
+         "order reached",
+         "void g13acc(const double *r, int nk, int nl, double *p, double *v, double *ar, int *nvl, "
+         "KivError *fail)",
+         "nk <= 0, nl <= 0: NE_INT_ARG_LE; nk < nl: NE_2_INT_ARG_LT; a null array: NE_BAD_PARAM; "
+         "|r[0]| >= 1: NE_INVALID_AUTOCO_COEF; not positive definite: NE_CORR_NOT_POS_DEF "
+         "(warning, nvl the order reached)"},
         {"s14aac",
          "gamma function",
          {{"x", ArgKind::Double}},
@@ -541,7 +628,10 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", s14aac(x, fail));
          },
          "4.5",
-         "x: the argument, not a pole (0, -1, -2, ...)"},
+         "x: the argument, not a pole (0, -1, -2, ...); result: Gamma(x)",
+         "double s14aac(double x, KivError *fail)",
+         "NaN or -inf: NE_REAL; a pole: NE_REAL_ARG_NEG_INT; overflow: NE_OVERFLOW_LIKELY, "
+         "NE_REAL_ARG_TOO_SMALL; underflow: NE_UNDERFLOW_LIKELY"},
         {"s14abc",
          "logarithm of the gamma function",
          {{"x", ArgKind::Double}},
@@ -551,7 +641,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", s14abc(x, fail));
          },
          "-2.5",
-         "x: the argument, not a pole"},
+         "x: the argument, not a pole; result: ln |Gamma(x)|",
+         "double s14abc(double x, KivError *fail)",
+         "NaN or -inf: NE_REAL; a pole: NE_REAL_ARG_NEG_INT; overflow: NE_OVERFLOW_LIKELY"},
         {"s14bac",
          "regularized incomplete gamma functions P(a,x) and Q(a,x)",
          {{"a", ArgKind::Double}, {"x", ArgKind::Double}, {"tol", ArgKind::Double}},
@@ -568,7 +660,10 @@ const std::vector<RoutineSpec> &routines() {
          },
          "2 3 0",
          "a: shape, a > 0; x: x >= 0; tol: relative accuracy asked, 0 for the best; p: P(a, x); q: "
-         "Q(a, x)"},
+         "Q(a, x)",
+         "void s14bac(double a, double x, double tol, double *p, double *q, KivError *fail)",
+         "a <= 0: NE_REAL_ARG_LE; x < 0: NE_REAL_ARG_LT; a and x both infinite: NE_REAL_2; null p "
+         "or q: NE_BAD_PARAM; no convergence: NE_ALG_NOT_CONV"},
         {"s15abc",
          "normal lower tail P(x)",
          {{"x", ArgKind::Double}},
@@ -578,7 +673,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", s15abc(x));
          },
          "1.96",
-         "x: the argument"},
+         "x: the argument; result: P(x)",
+         "double s15abc(double x)",
+         ""},
         {"s15acc",
          "normal upper tail Q(x)",
          {{"x", ArgKind::Double}},
@@ -588,7 +685,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", s15acc(x));
          },
          "1.96",
-         "x: the argument"},
+         "x: the argument; result: Q(x)",
+         "double s15acc(double x)",
+         ""},
         {"s15adc",
          "complementary error function erfc(x)",
          {{"x", ArgKind::Double}},
@@ -598,7 +697,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", s15adc(x));
          },
          "1.0",
-         "x: the argument"},
+         "x: the argument; result: erfc(x)",
+         "double s15adc(double x)",
+         ""},
         {"s15adc_v",
          "erfc of each of n values",
          {{"n", ArgKind::Int, nullptr, 1}, {"x", ArgKind::Doubles}},
@@ -611,7 +712,9 @@ const std::vector<RoutineSpec> &routines() {
              printed.vector("out", first(out, n));
          },
          "3 0,1,2",
-         "n: number of values; x: the arguments; out: erfc of each"},
+         "n: number of values; x: the arguments; out: erfc of each",
+         "void s15adc_v(int n, const double *x, double *out)",
+         ""},
         {"s15aec",
          "error function erf(x)",
          {{"x", ArgKind::Double}},
@@ -621,13 +724,17 @@ const std::vector<RoutineSpec> &routines() {
              printed.scalar("result", s15aec(x));
          },
          "0.5",
-         "x: the argument"},
+         "x: the argument; result: erf(x)",
+         "double s15aec(double x)",
+         ""},
         {"x02ajc",
          "machine precision",
          {},
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", x02ajc()); },
          "",
+         "result: 2^-53 (1 + 2^-52)",
+         "double x02ajc(void)",
          ""},
         {"x02akc",
          "smallest positive normalised double",
@@ -635,6 +742,8 @@ const std::vector<RoutineSpec> &routines() {
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", x02akc()); },
          "",
+         "result: 2^-1022",
+         "double x02akc(void)",
          ""},
         {"x02alc",
          "largest finite double",
@@ -642,6 +751,8 @@ const std::vector<RoutineSpec> &routines() {
          false,
          [](In, Outputs &printed, KivError *) { printed.scalar("result", x02alc()); },
          "",
+         "result: the largest finite double",
+         "double x02alc(void)",
          ""},
         {"x05aac",
          "calendar time in seconds",
@@ -649,6 +760,8 @@ const std::vector<RoutineSpec> &routines() {
          false,
          [](In, Outputs &printed, KivError *) { printed.integer("result", x05aac()); },
          "",
+         "result: seconds since the epoch",
+         "long x05aac(void)",
          ""},
     };
     return table;

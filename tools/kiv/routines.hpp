@@ -127,6 +127,8 @@ struct RoutineSpec {
     void (*call)(const Inputs &in, Outputs &out, KivError *fail);
     const char *example;    // its arguments in a typical call ("" for none)
     const char *arguments;  // "name: meaning; ..." for every parameter
+    const char *signature;  // the C prototype
+    const char *faults;     // "condition: CODE; ..." in the order checked
 };
 
 // Generated from the routine records (routine_table.cpp): every routine the
