@@ -23,6 +23,10 @@
 //     amplified by its size up to 709, stays below 2^-53 of the result.
 //   sin(pi x): reduced exactly to |r| <= 1/4 about a multiple of 1/2, then sin
 //     or cos in long double.
+//   The exponentials, logarithms, log1p, sin and cos here are the C library's
+//   (std::), in double and long double: results may differ in their last bits
+//   between C libraries and where long double is not the x87 format
+//   (docs/gamma.md, "Platform-dependent results").
 //   ln Gamma(x), x > 0: (0, 1/2) ln Gamma(1 + x) - ln x; [1/2, 5/2) the series;
 //     [5/2, 10) the recurrence as a logarithm of the product; [10, 1e17)
 //     (x - 1/2) ln x - x + ln sqrt(2 pi) + ln Gamma*(x) in long double; beyond,

@@ -19,6 +19,9 @@
 // (so that Gamma(-x) does not overflow before the division); for |x| < 1/2
 // directly Gamma(x) = Gamma(1 + x) / x.
 //
+// exp, log, sin and cos are the C library's (long double), so the last bits
+// may differ between platforms (docs/gamma.md, "Platform-dependent results").
+//
 // Measured accuracy against MPFR (tests/s/gamma_test.cpp, docs/gamma.md).
 #include <cmath>
 

@@ -42,8 +42,10 @@
 //   With a loose tol the exponent takes ln(x/a) directly and two terms of
 //   Stirling's series. Long series are summed in four interleaved Horner
 //   chains (no fused multiply-add: each Horner step is two dependent
-//   operations). exp, log and erfc are the library's own kernels, the same
-//   bits on every platform.
+//   operations). erfc and the double exponentials are the library's own
+//   kernels; ln x in long double, x^a - 1 and 1/Gamma(1 + a) - 1 through expm1
+//   come from the C library, so the last bits may differ between platforms
+//   (docs/gamma.md, "Platform-dependent results").
 //   Series and continued fraction stop when the rest falls below tol times the
 //   sum; 600 iterations without that is NE_ALG_NOT_CONV (P and Q are then the
 //   last estimates).
