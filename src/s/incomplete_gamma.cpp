@@ -13,7 +13,7 @@
 //     Q = erfc(eta sqrt(a/2)) / 2 + e^(-a eta^2/2) / sqrt(2 pi a) sum_k C_k(eta) a^-k,
 //     eta^2 / 2 = x/a - 1 - ln(x/a), eta with the sign of x - a; up to ten
 //     orders, each a Taylor polynomial in eta (tables generated in
-//     kernels/gamma_tables.py, rows cut where their terms fall below 1e-18,
+//     tools/generate/gamma_tables.py, rows cut where their terms fall below 1e-18,
 //     or 1e-10 for a loose tol, at the largest eta in use), stopped at the
 //     first order below tol. erfc(y) = e^(-y^2) R(y) with R the expansion
 //     of s15adc, so that one exponential e^(-a eta^2/2) serves both terms.
