@@ -61,7 +61,7 @@ KIV_API double g01eac(Kiv_Tail tail, double x, KivError *fail) {
             kiv::rt::report_template(fail, "g01eac", NE_BAD_PARAM, "tail");
             return 0.0;
     }
-    kiv::g01::report_success_quickly(fail, "g01eac");
+    kiv::rt::report_success(fail, "g01eac");
     return probability;
 }
 
@@ -89,7 +89,7 @@ KIV_API void g01eac_v(Kiv_Tail tail, int n, const double x[], double out[], KivE
             kiv::rt::report_template(fail, kRoutine, NE_BAD_PARAM, "tail");
             return;
     }
-    kiv::g01::report_success_quickly(fail, kRoutine);
+    kiv::rt::report_success(fail, kRoutine);
 }
 
 }  // extern "C"

@@ -1,8 +1,6 @@
-// What the normal-distribution routines share: the tails they accept and a
-// quick report of success.
+// What the normal-distribution routines share: the tails they accept and the
+// checks of the batch forms.
 #pragma once
-
-#include <cstring>
 
 #include "kiv.h"
 
@@ -25,22 +23,5 @@ bool report_if_outside_unit_interval(double p, KivError *fail, const char *routi
 // true when one failed and was reported.
 bool report_if_bad_batch(int n, const double *in, const char *in_name, const double *out,
                          KivError *fail, const char *routine);
-
-// The text that kiv_report_error stores on success (the code table's entry
-// for NE_NOERROR).
-inline constexpr char kNoErrorText[] = "NE_NOERROR:\n  No error.";
-
-// Reports success exactly as kiv_report_error(nullptr, 0, routine, fail)
-// does after clear_code, without its table lookup and string scan: with no
-// handler set the reporter prints nothing for code 0 and stores the code
-// and the text; with a handler it is called as usual.
-inline void report_success_quickly(KivError *fail, const char *routine) {
-    if (fail == nullptr || fail->code != 0) return;
-    if (fail->handler != nullptr) {
-        kiv_report_error(nullptr, 0, routine, fail);
-        return;
-    }
-    std::memcpy(fail->message, kNoErrorText, sizeof kNoErrorText);
-}
 
 }  // namespace kiv::g01

@@ -100,7 +100,7 @@ KIV_API double g01cec(double p, KivError *fail) {
     kiv::rt::clear_code(fail);
     if (kiv::g01::report_if_outside_unit_interval(p, fail, "g01cec", "p")) return 0.0;
     const double x = kiv::g01::deviate_value(p);
-    kiv::g01::report_success_quickly(fail, "g01cec");
+    kiv::rt::report_success(fail, "g01cec");
     return x;
 }
 
@@ -132,7 +132,7 @@ KIV_API double g01fac(Kiv_Tail tail, double p, KivError *fail) {
         kiv::rt::report_code(fail, kRoutine, NE_INTERNAL_ERROR);
         return x;
     }
-    kiv::g01::report_success_quickly(fail, kRoutine);
+    kiv::rt::report_success(fail, kRoutine);
     return x;
 }
 

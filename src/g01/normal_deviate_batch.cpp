@@ -126,7 +126,7 @@ KIV_API void g01fac_v(Kiv_Tail tail, int n, const double p[], double out[], KivE
         report_first_failure(tail, n, p, fail);
         return;
     }
-    kiv::g01::report_success_quickly(fail, kRoutine);
+    kiv::rt::report_success(fail, kRoutine);
 }
 
 }  // extern "C"

@@ -3,6 +3,8 @@
 // file of the library tests for the operating system.
 #pragma once
 
+#include <ctime>
+
 namespace kiv::platform {
 
 // Opens the library's output console once per process, where the system
@@ -39,7 +41,13 @@ struct LocalTime {
 };
 bool local_time(LocalTime &out);
 
-// Processor time used by the process, in seconds.
-double processor_seconds();
+// Processor time used by the process, in seconds (standard C on every
+// system, so defined once here).
+inline double processor_seconds() {
+    const std::clock_t used = std::clock();
+    return used == static_cast<std::clock_t>(-1)
+               ? 0.0
+               : static_cast<double>(used) / static_cast<double>(CLOCKS_PER_SEC);
+}
 
 }  // namespace kiv::platform

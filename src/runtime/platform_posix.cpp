@@ -90,11 +90,4 @@ bool local_time(LocalTime &out) {
     return true;
 }
 
-double processor_seconds() {
-    const std::clock_t used = std::clock();
-    return used == static_cast<std::clock_t>(-1)
-               ? 0.0
-               : static_cast<double>(used) / static_cast<double>(CLOCKS_PER_SEC);
-}
-
 }  // namespace kiv::platform

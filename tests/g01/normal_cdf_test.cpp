@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "g01/normal_common.hpp"
+#include "runtime/report.hpp"
 #include "g01/normal_test_support.hpp"
 #include "kernels/exp_log_oracle.hpp"
 #include "kiv.h"
@@ -94,7 +95,7 @@ void log_handler(const char *message, int code, const char *routine) {
 }
 
 TEST(NormalTailProbability, SuccessReportFillsTheRecordAsTheReporterDoes) {
-    EXPECT_STREQ(kiv::g01::kNoErrorText, kiv::rt::code_template(NE_NOERROR));
+    EXPECT_STREQ(kiv::rt::kNoErrorText, kiv::rt::code_template(NE_NOERROR));
     KivError fail = kiv::test::quiet_record();
     std::memset(fail.message, 'x', sizeof fail.message);
     g01eac(Kiv_LowerTail, 1.0, &fail);
