@@ -16,14 +16,9 @@ void report_not_available(const char *routine, KivError *fail) {
 }
 
 void print_not_available(const char *routine) {
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-#endif
-    std::fprintf(stderr, kiv::rt::code_template(NE_NOT_AVAILABLE), routine);
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
+    const std::string text =
+        kiv::rt::format_message(kiv::rt::code_template(NE_NOT_AVAILABLE), {routine});
+    std::fputs(text.c_str(), stderr);
     std::fputc('\n', stderr);
     std::fflush(stderr);
 }

@@ -80,25 +80,65 @@ const char *enum_member_name(int value) {
     return nullptr;
 }
 
-void report_template(KivError *fail, const char *routine, int code, ...) {
-    char buffer[kMessageCapacity];
+void MessageArg::append_to(std::string &out, char conversion, int width) const {
+    std::string text;
+    char buffer[64];
+    if (kind_ == Kind::text) {
+        text = text_ != nullptr ? text_ : "(null)";
+    } else if (conversion == 'g' || (conversion == 's' && kind_ == Kind::real)) {
+        const double value = kind_ == Kind::real ? real_ : static_cast<double>(integer_);
+        std::snprintf(buffer, sizeof buffer, "%g", value);
+        text = buffer;
+    } else {
+        const long long value = kind_ == Kind::integer ? integer_ : static_cast<long long>(real_);
+        std::snprintf(buffer, sizeof buffer, "%lld", value);
+        text = buffer;
+    }
+    if (static_cast<int>(text.size()) < width)
+        out.append(static_cast<std::size_t>(width) - text.size(), ' ');
+    out += text;
+}
+
+std::string format_message(const char *format, std::initializer_list<MessageArg> args) {
+    std::string out;
+    const MessageArg *next = args.begin();
+    for (const char *c = format; *c != '\0'; ++c) {
+        if (*c != '%') {
+            out += *c;
+            continue;
+        }
+        if (c[1] == '%') {
+            out += '%';
+            ++c;
+            continue;
+        }
+        // %[width][l]conversion
+        const char *start = c++;
+        int width = 0;
+        while (*c >= '0' && *c <= '9') width = width * 10 + (*c++ - '0');
+        while (*c == 'l') ++c;
+        const char conversion = *c == 'd' || *c == 'i' ? 'd' : *c;
+        if ((conversion != 's' && conversion != 'g' && conversion != 'd') ||
+            next == args.end()) {
+            out.append(start, static_cast<std::size_t>(c - start) + (*c != '\0' ? 1 : 0));
+            if (*c == '\0') break;
+            continue;
+        }
+        (next++)->append_to(out, conversion, width);
+    }
+    return out;
+}
+
+void report_template_args(KivError *fail, const char *routine, int code,
+                          std::initializer_list<MessageArg> args) {
     const char *format = code_template(code);
     if (format == nullptr) {
         kiv_report_error(nullptr, code, routine, fail);
         return;
     }
-    va_list args;
-    va_start(args, code);
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-#endif
-    std::vsnprintf(buffer, sizeof buffer, format, args);
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
-    va_end(args);
-    kiv_report_error(buffer, code, routine, fail);
+    std::string message = format_message(format, args);
+    if (message.size() >= kMessageCapacity) message.resize(kMessageCapacity - 1);
+    kiv_report_error(message.c_str(), code, routine, fail);
 }
 
 void report_text(KivError *fail, const char *routine, int code, const char *format, ...) {

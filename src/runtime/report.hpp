@@ -7,6 +7,9 @@
 
 #include <atomic>
 #include <cstring>
+#include <initializer_list>
+#include <string>
+#include <type_traits>
 
 #include "kiv.h"
 
@@ -29,9 +32,43 @@ inline void clear_code(KivError *fail) {
     if (fail != nullptr) fail->code = 0;
 }
 
+// One argument of a message template: a text, an integer or a real, kept
+// with its type, so that the template's conversions never read an argument
+// of another type (as a C variadic list with a hand cast could).
+class MessageArg {
+public:
+    MessageArg(const char *text) : kind_(Kind::text), text_(text) {}
+    template <typename T>
+        requires std::is_integral_v<T>
+    MessageArg(T value) : kind_(Kind::integer), integer_(static_cast<long long>(value)) {}
+    MessageArg(double value) : kind_(Kind::real), real_(value) {}
+
+    // Appends the argument as the conversion `conversion` ('s', 'g' or 'd')
+    // with a minimum `width` would print it.
+    void append_to(std::string &out, char conversion, int width) const;
+
+private:
+    enum class Kind { text, integer, real };
+    Kind kind_;
+    const char *text_ = nullptr;
+    long long integer_ = 0;
+    double real_ = 0.0;
+};
+
+// The template `format` filled with `args`: the conversions of the code
+// table (%s, %g, %ld, with an optional width) take the arguments in order;
+// %% is a percent sign; missing arguments leave the conversion as written.
+std::string format_message(const char *format, std::initializer_list<MessageArg> args);
+
 // Formats the table's template for `code` with the arguments (bounded to
 // the record's 511 characters) and reports it under `routine`.
-void report_template(KivError *fail, const char *routine, int code, ...);
+void report_template_args(KivError *fail, const char *routine, int code,
+                          std::initializer_list<MessageArg> args);
+
+template <typename... Args>
+void report_template(KivError *fail, const char *routine, int code, const Args &...args) {
+    report_template_args(fail, routine, code, {MessageArg(args)...});
+}
 
 // Formats a routine's own text with the arguments and reports it.
 void report_text(KivError *fail, const char *routine, int code, const char *format, ...)

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -259,3 +260,22 @@ TEST(ReportSuccess, FillsTheRecordAsTheReporterDoes) {
 }
 
 }  // namespace
+
+// The typed template filler gives what printf gives for the conversions of
+// the code table, and adapts an argument of another type instead of reading
+// it as the conversion's type.
+TEST(MessageTemplates, FillTheTableConversionsAsPrintfDoes) {
+    using kiv::rt::format_message;
+    struct Row {
+        std::string got, want;
+    };
+    const Row rows[] = {
+        {format_message("a %s b %g c %ld", {"x", 0.1, 42L}), "a x b 0.1 c 42"},
+        {format_message("[%2ld][%1ld][%2ld]", {3, 17, 123}), "[ 3][17][123]"},
+        {format_message("%g %g %g", {-0.0, 1e300, std::nan("")}), "-0 1e+300 nan"},
+        {format_message("100%% of %s", {"it"}), "100% of it"},
+        {format_message("%g and %ld", {3, 2.9}), "3 and 2"},  // adapted, not misread
+        {format_message("%s %s", {"only one"}), "only one %s"},
+    };
+    for (const Row &row : rows) EXPECT_EQ(row.got, row.want);
+}
