@@ -32,9 +32,9 @@
 #include <cmath>
 #include <cstddef>
 
-#include "g02/checks.hpp"
 #include "kernels/qr.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
@@ -87,12 +87,11 @@ int scaled_blocks(const double *r, std::size_t tdr, const Blocks &b, double *sca
 
 extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr,
                                double p[], int tdp, KivError *fail) {
-    namespace g02 = kiv::g02;
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
-    if (!g02::at_least(fail, kRoutine, "m", m, "3", 3) ||
-        !g02::at_least(fail, kRoutine, "ny", ny, "2", 2) ||
-        !g02::at_least(fail, kRoutine, "nx", nx, "1", 1))
+    const kiv::rt::Checks check(fail, kRoutine);
+    if (!check.int_not_less("m", m, 3, "3") || !check.int_not_less("ny", ny, 2, "2") ||
+        !check.int_not_less("nx", nx, 1, "1"))
         return;
     if (static_cast<long long>(ny) + nx > m) {
         kiv::rt::report_template(fail, kRoutine, NE_3_INT_ARG_CONS, "ny", static_cast<long>(ny),
@@ -100,10 +99,9 @@ extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const dou
                                  "ny + nx <= m");
         return;
     }
-    if (!g02::stride_at_least(fail, kRoutine, "tdr", tdr, "m", m) ||
-        !g02::stride_at_least(fail, kRoutine, "tdp", tdp, "ny", ny) ||
-        !g02::given(fail, kRoutine, isz, "isz") || !g02::given(fail, kRoutine, r, "r") ||
-        !g02::given(fail, kRoutine, p, "p"))
+    if (!check.stride_at_least("tdr", tdr, "m", m) ||
+        !check.stride_at_least("tdp", tdp, "ny", ny) || !check.given("isz", isz) ||
+        !check.given("r", r) || !check.given("p", p))
         return;
     long negatives = 0, positives = 0;
     for (int j = 0; j < m; ++j) negatives += isz[j]<0, positives += isz[j]> 0;

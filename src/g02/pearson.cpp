@@ -44,8 +44,8 @@
 #include <cmath>
 #include <cstddef>
 
-#include "g02/checks.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
@@ -85,22 +85,19 @@ void update(const Accumulator &acc, const double *row, double a, double b) {
 extern "C" KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[],
                                const double wt[], double *sw, double wmean[], double std[],
                                double r[], int tdr, double v[], int tdv, KivError *fail) {
-    namespace g02 = kiv::g02;
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, kRoutine);
     if (n <= 1) {
         kiv::rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "n", "1", "n",
                                  static_cast<long>(n));
         return;
     }
-    if (!g02::at_least(fail, kRoutine, "m", m, "1", 1) ||
-        !g02::stride_at_least(fail, kRoutine, "tdx", tdx, "m", m) ||
-        !g02::stride_at_least(fail, kRoutine, "tdv", tdv, "m", m) ||
-        !g02::stride_at_least(fail, kRoutine, "tdr", tdr, "m", m) ||
-        !g02::given(fail, kRoutine, x, "x") || !g02::given(fail, kRoutine, sx, "sx") ||
-        !g02::given(fail, kRoutine, sw, "sw") || !g02::given(fail, kRoutine, wmean, "wmean") ||
-        !g02::given(fail, kRoutine, std, "std") || !g02::given(fail, kRoutine, r, "r") ||
-        !g02::given(fail, kRoutine, v, "v"))
+    if (!check.int_not_less("m", m, 1, "1") || !check.stride_at_least("tdx", tdx, "m", m) ||
+        !check.stride_at_least("tdv", tdv, "m", m) || !check.stride_at_least("tdr", tdr, "m", m) ||
+        !check.given("x", x) || !check.given("sx", sx) || !check.given("sw", sw) ||
+        !check.given("wmean", wmean) || !check.given("std", std) || !check.given("r", r) ||
+        !check.given("v", v))
         return;
     if (wt != nullptr) {
         for (int i = 0; i < n; ++i) {

@@ -45,11 +45,11 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "g02/checks.hpp"
 #include "kernels/kendall.hpp"
 #include "kernels/rank.hpp"
 #include "kernels/sort.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
@@ -108,15 +108,13 @@ WideInt squared_rank_differences(const std::uint32_t *rank_a, const std::uint32_
 
 extern "C" KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[],
                                const int sobs[], double corr[], int tdc, KivError *fail) {
-    namespace g02 = kiv::g02;
     using kiv::rt::WorkArray;
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
-    if (!g02::at_least(fail, kRoutine, "n", n, "2", 2) ||
-        !g02::at_least(fail, kRoutine, "m", m, "2", 2) ||
-        !g02::stride_at_least(fail, kRoutine, "tdx", tdx, "m", m) ||
-        !g02::stride_at_least(fail, kRoutine, "tdc", tdc, "m", m) ||
-        !g02::given(fail, kRoutine, x, "x") || !g02::given(fail, kRoutine, corr, "corr"))
+    const kiv::rt::Checks check(fail, kRoutine);
+    if (!check.int_not_less("n", n, 2, "2") || !check.int_not_less("m", m, 2, "2") ||
+        !check.stride_at_least("tdx", tdx, "m", m) || !check.stride_at_least("tdc", tdc, "m", m) ||
+        !check.given("x", x) || !check.given("corr", corr))
         return;
 
     const long long cells = kiv::rt::checked_count(n, m);

@@ -14,9 +14,9 @@
 // The indicator is kept in fail->errnum.
 #include <cstdio>
 
-#include "g02/checks.hpp"
 #include "g02/sums_of_squares_core.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
@@ -143,10 +143,11 @@ KIV_API void g02btc(Kiv_SumSquare mean, int m, double wt, const double x[], int 
     namespace g02 = kiv::g02;
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, kUpdate);
     const char letter = mode_letter(mean);
     if (letter == 0) return kiv::rt::report_template(fail, kUpdate, NE_BAD_PARAM, "mean");
-    if (!g02::given(fail, kUpdate, x, "x") || !g02::given(fail, kUpdate, sw, "sw") ||
-        !g02::given(fail, kUpdate, xbar, "xbar") || !g02::given(fail, kUpdate, c, "c"))
+    if (!check.given("x", x) || !check.given("sw", sw) || !check.given("xbar", xbar) ||
+        !check.given("c", c))
         return;
     int indicator = 1;
     char fault[g02::kFaultLength] = "";
@@ -161,6 +162,7 @@ KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const
     using kiv::rt::report_template;
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, kMatrix);
     const char letter = mode_letter(mean);
     const bool by_rows = order == Kiv_RowMajor;
     if (letter == 0) return report_template(fail, kMatrix, NE_BAD_PARAM, "mean");
@@ -173,8 +175,8 @@ KIV_API void g02buc(Kiv_SumSquare mean, Kiv_OrderType order, int n, int m, const
     if (by_rows && pdx < m)
         return report_template(fail, kMatrix, NE_INT_2, "pdx", static_cast<long>(pdx), "m",
                                static_cast<long>(m), "pdx>=m");
-    if (!g02::given(fail, kMatrix, x, "x") || !g02::given(fail, kMatrix, sw, "sw") ||
-        !g02::given(fail, kMatrix, wmean, "wmean") || !g02::given(fail, kMatrix, c, "c"))
+    if (!check.given("x", x) || !check.given("sw", sw) || !check.given("wmean", wmean) ||
+        !check.given("c", c))
         return;
 
     auto run_core = [&](const double *by_columns, int leading) {
@@ -199,7 +201,8 @@ KIV_API void g02bwc(int m, double r[], KivError *fail) {
     namespace g02 = kiv::g02;
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
-    if (!g02::given(fail, kScale, r, "r")) return;
+    const kiv::rt::Checks check(fail, kScale);
+    if (!check.given("r", r)) return;
     int indicator = 1;
     char fault[g02::kFaultLength] = "";
     g02::g02bwz(m, r, &indicator, fault, g02::kFaultLength);

@@ -59,6 +59,7 @@
 
 #include "g13/arguments.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
@@ -210,59 +211,63 @@ void mean_and_sum_of_squares(const double *x, std::size_t n, double *mean, doubl
 
 }  // namespace kiv::g13
 
-extern "C" {
+namespace kiv::g13 {
 
-KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv, double r[],
-                    double *stat, KivError *fail) {
-    namespace rt = kiv::rt;
-    static constexpr const char *kRoutine = "g13abc";
-    if (!rt::licence_check()) return;
-    rt::clear_code(fail);
-
-    if (nx <= 1) {
-        rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "nx", "1", "nx", static_cast<long>(nx));
-        return;
-    }
-    if (nk <= 0) {
-        rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "nk", "0", "nk", static_cast<long>(nk));
-        return;
-    }
-    if (nk >= nx) {
-        rt::report_template(fail, kRoutine, NE_2_INT_ARG_LE, "nx", static_cast<long>(nx), "nk",
-                            static_cast<long>(nk), "nx", "nk");
-        return;
-    }
-    if (kiv::g13::report_null_argument(
-            fail, kRoutine, {{x, "x"}, {xm, "xm"}, {xv, "xv"}, {r, "r"}, {stat, "stat"}}))
-        return;
-
+AutocorrelationStatus autocorrelations(const double *x, int nx, int nk, double *xm, double *xv,
+                                       double *r, double *stat) {
     const auto n = static_cast<std::size_t>(nx);
     const auto lags = static_cast<std::size_t>(nk);
     rt::WorkArray<double> deviations(nx);
-    if (!deviations.ok()) {
-        rt::report_code(fail, kRoutine, NE_ALLOC_FAIL);
-        return;
-    }
+    if (!deviations.ok()) return AutocorrelationStatus::no_memory;
 
     double sum_squares = 0.0;
-    kiv::g13::mean_and_sum_of_squares(x, n, xm, &sum_squares);
+    mean_and_sum_of_squares(x, n, xm, &sum_squares);
     *xv = sum_squares / static_cast<double>(nx - 1);
     const double eps = x02ajc();
-    if (4.0 * eps * eps >= *xv) {
-        rt::report_template(fail, kRoutine, NE_TIME_SERIES_IDEN, "x");
-        return;
-    }
+    if (4.0 * eps * eps >= *xv) return AutocorrelationStatus::constant;
 
     const double mean = *xm;
     for (std::size_t i = 0; i < n; ++i) deviations[i] = x[i] - mean;
-    kiv::g13::lagged_products(deviations.get(), n, lags, r);
+    lagged_products(deviations.get(), n, lags, r);
     double box_pierce = 0.0;
     for (std::size_t k = 0; k < lags; ++k) {
         r[k] /= sum_squares;
         box_pierce += static_cast<double>(nx) * (r[k] * r[k]);
     }
     *stat = box_pierce;
-    rt::report_success(fail, kRoutine);
+    return AutocorrelationStatus::ok;
+}
+
+}  // namespace kiv::g13
+
+extern "C" {
+
+KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv, double r[],
+                    double *stat, KivError *fail) {
+    using kiv::g13::AutocorrelationStatus;
+    if (!kiv::rt::licence_check()) return;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, "g13abc");
+    if (!check.int_above("nx", nx, 1, "1") || !check.int_above("nk", nk, 0, "0"))
+        return;
+    if (nk >= nx) {
+        check.report(NE_2_INT_ARG_LE, "nx", nx, "nk", nk, "nx", "nk");
+        return;
+    }
+    if (kiv::g13::report_null_argument(
+            fail, check.routine(), {{x, "x"}, {xm, "xm"}, {xv, "xv"}, {r, "r"}, {stat, "stat"}}))
+        return;
+    switch (kiv::g13::autocorrelations(x, nx, nk, xm, xv, r, stat)) {
+        case AutocorrelationStatus::no_memory:
+            check.report_code_only(NE_ALLOC_FAIL);
+            return;
+        case AutocorrelationStatus::constant:
+            check.report(NE_TIME_SERIES_IDEN, "x");
+            return;
+        case AutocorrelationStatus::ok:
+            check.success();
+            return;
+    }
 }
 
 }  // extern "C"

@@ -17,4 +17,11 @@ void lagged_products(const double *dev, std::size_t n, std::size_t nk, double *c
 // The same with two-lane vectors only (SSE2 or NEON), for every processor.
 void lagged_products_portable(const double *dev, std::size_t n, std::size_t nk, double *c);
 
+// The computation of g13abc without its argument checks and reports (the
+// arguments already checked): ok, no_memory (the work array), or constant
+// (a variance at or below 4 eps^2: r and stat undefined; xm and xv set).
+enum class AutocorrelationStatus { ok, no_memory, constant };
+AutocorrelationStatus autocorrelations(const double *x, int nx, int nk, double *xm, double *xv,
+                                       double *r, double *stat);
+
 }  // namespace kiv::g13
