@@ -26,11 +26,10 @@
 // per value (the division r = e / W lies on the chain through the mean).
 #include <cmath>
 #include <cstdio>
-
 #include <utility>
 
 #include "kiv.h"
-#include "runtime/report.hpp"
+#include "runtime/checks.hpp"
 
 namespace {
 
@@ -61,58 +60,15 @@ inline void add_value(Moments &m, double x, double w, double tiny) {
     m.mean = m.mean + r;
 }
 
-}  // namespace
+// The weighted moments of the observations with a positive weight (all of
+// them when wt is null), first valid observation at `first`, `valid` of them:
+// one pass of the updates above, then the coefficients (0 for a constant
+// sample or a single observation).
+struct Summary {
+    double mean, sd, skewness, kurtosis, minimum, maximum, weight_total;
+};
 
-extern "C" {
-
-KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, double *xmean,
-                    double *xsd, double *xskew, double *xkurt, double *xmin, double *xmax,
-                    double *wsum, KivError *fail) {
-    using namespace kiv::rt;
-    if (!licence_check()) return;
-    clear_code(fail);
-    if (n <= 0) {
-        if (nvalid != nullptr) *nvalid = 0;
-        report_template(fail, "g01aac", NE_INT_ARG_LE, "n", "0", "n", static_cast<long>(n));
-        return;
-    }
-    // A required array or output given as a null pointer is reported by name
-    // (wt alone may be null: unit weights).
-    const std::pair<const void *, const char *> required[] = {
-        {x, "x"},         {nvalid, "nvalid"}, {xmean, "xmean"}, {xsd, "xsd"},
-        {xskew, "xskew"}, {xkurt, "xkurt"},   {xmin, "xmin"},   {xmax, "xmax"},
-        {wsum, "wsum"}};
-    for (const auto &[pointer, name] : required)
-        if (pointer == nullptr) {
-            report_template(fail, "g01aac", NE_BAD_PARAM, name);
-            return;
-        }
-
-    int valid = n;
-    int first = 0;
-    if (wt != nullptr) {
-        valid = 0;
-        first = -1;
-        for (int i = 0; i < n; ++i) {
-            if (!(wt[i] >= 0.0)) {
-                *nvalid = 0;
-                char label[24];
-                std::snprintf(label, sizeof label, "wt[%3ld]", static_cast<long>(i));
-                report_template(fail, "g01aac", NE_REAL_ARG_LT, label, "0", label, wt[i]);
-                return;
-            }
-            if (wt[i] > 0.0) {
-                if (first < 0) first = i;
-                ++valid;
-            }
-        }
-        if (valid == 0) {
-            *nvalid = 0;
-            report_code(fail, "g01aac", NE_CASES_ZERO);
-            return;
-        }
-    }
-
+Summary weighted_moments(int n, const double *x, const double *wt, int first, int valid) {
     Moments m{};
     m.mean = m.minimum = m.maximum = x[first];
     m.weight_total = wt != nullptr ? wt[first] : 1.0;
@@ -126,26 +82,80 @@ KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, dou
                 if (wt[i] > 0.0) add_value(m, x[i], wt[i], tiny);
         }
     }
-
-    *nvalid = valid;
-    *xmean = m.mean;
-    *xmin = m.minimum;
-    *xmax = m.maximum;
-    *wsum = m.weight_total;
-    *xsd = *xskew = *xkurt = 0.0;
-    if (valid == 1) {
-        report_code(fail, "g01aac", NE_CASES_ONE);
-        return;
-    }
-    if (m.s2 > 0.0) {
+    Summary out{m.mean, 0.0, 0.0, 0.0, m.minimum, m.maximum, m.weight_total};
+    if (valid > 1 && m.s2 > 0.0) {
         const double c = m.weight_total / m.pair_weight;
         const double variance = c * m.s2;
         const double sd = std::sqrt(variance);
-        *xsd = sd;
-        *xskew = c * m.s3 / (sd * variance);
-        *xkurt = c * m.s4 / (variance * variance) - 3.0;
+        out.sd = sd;
+        out.skewness = c * m.s3 / (sd * variance);
+        out.kurtosis = c * m.s4 / (variance * variance) - 3.0;
     }
-    report_success(fail, "g01aac");
+    return out;
+}
+
+}  // namespace
+
+extern "C" {
+
+KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, double *xmean,
+                    double *xsd, double *xskew, double *xkurt, double *xmin, double *xmax,
+                    double *wsum, KivError *fail) {
+    if (!kiv::rt::licence_check()) return;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, "g01aac");
+    if (!check.int_above("n", n, 0, "0")) {
+        if (nvalid != nullptr) *nvalid = 0;
+        return;
+    }
+    // A required array or output given as a null pointer is reported by name
+    // (wt alone may be null: unit weights).
+    const std::pair<const void *, const char *> required[] = {
+        {x, "x"},         {nvalid, "nvalid"}, {xmean, "xmean"}, {xsd, "xsd"},  {xskew, "xskew"},
+        {xkurt, "xkurt"}, {xmin, "xmin"},     {xmax, "xmax"},   {wsum, "wsum"}};
+    for (const auto &[pointer, name] : required)
+        if (!check.given(name, pointer)) return;
+
+    // The weights: none negative (or NaN), at least one positive.
+    int valid = n;
+    int first = 0;
+    if (wt != nullptr) {
+        valid = 0;
+        first = -1;
+        for (int i = 0; i < n; ++i) {
+            if (!(wt[i] >= 0.0)) {
+                *nvalid = 0;
+                char label[24];
+                std::snprintf(label, sizeof label, "wt[%3ld]", static_cast<long>(i));
+                check.real_not_less(label, wt[i], 0.0, "0");
+                return;
+            }
+            if (wt[i] > 0.0) {
+                if (first < 0) first = i;
+                ++valid;
+            }
+        }
+        if (valid == 0) {
+            *nvalid = 0;
+            check.report_code_only(NE_CASES_ZERO);
+            return;
+        }
+    }
+
+    const Summary summary = weighted_moments(n, x, wt, first, valid);
+    *nvalid = valid;
+    *xmean = summary.mean;
+    *xmin = summary.minimum;
+    *xmax = summary.maximum;
+    *wsum = summary.weight_total;
+    *xsd = summary.sd;
+    *xskew = summary.skewness;
+    *xkurt = summary.kurtosis;
+    if (valid == 1) {
+        check.report_code_only(NE_CASES_ONE);
+        return;
+    }
+    check.success();
 }
 
 }  // extern "C"

@@ -50,39 +50,16 @@
 
 #include "g13/arguments.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 
-extern "C" {
+namespace kiv::g13 {
 
-KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[], double ar[], int *nvl,
-                    KivError *fail) {
-    namespace rt = kiv::rt;
-    static constexpr const char *kRoutine = "g13acc";
-    if (!rt::licence_check()) return;
-    rt::clear_code(fail);
-
-    if (nk < 1) {
-        rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "nk", "0", "nk", static_cast<long>(nk));
-        return;
-    }
-    if (nl < 1) {
-        rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "nl", "0", "nl", static_cast<long>(nl));
-        return;
-    }
-    if (nk < nl) {
-        rt::report_template(fail, kRoutine, NE_2_INT_ARG_LT, "nk", static_cast<long>(nk), "nl",
-                            static_cast<long>(nl), "nk", "nl");
-        return;
-    }
-    if (kiv::g13::report_null_argument(fail, kRoutine,
-                                       {{r, "r"}, {p, "p"}, {v, "v"}, {ar, "ar"}, {nvl, "nvl"}}))
-        return;
-
-    *nvl = 0;
-    if (std::fabs(r[0]) >= 1.0) {
-        rt::report_template(fail, kRoutine, NE_INVALID_AUTOCO_COEF);
-        return;
-    }
+// The Durbin-Levinson recursion of g13acc without its checks and reports:
+// p, v, ar for orders 1..nl (nl >= 1, r[0] already checked), *nvl the order
+// reached; false when the recursion stopped because the autocorrelations
+// are not positive definite at order *nvl + 1.
+bool durbin_levinson(const double *r, int nl, double *p, double *v, double *ar, int *nvl) {
     const auto wanted = static_cast<std::size_t>(nl);
     for (std::size_t k = 0; k < wanted; ++k) p[k] = v[k] = ar[k] = 0.0;
     *nvl = 1;
@@ -93,10 +70,7 @@ KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[], do
         double predicted = 0.0;
         for (std::size_t j = 0; j < k; ++j) predicted += ar[j] * r[k - 1 - j];
         const double phi = (r[k] - predicted) / v[k - 1];
-        if (std::fabs(phi) >= 1.0) {
-            rt::report_template(fail, kRoutine, NE_CORR_NOT_POS_DEF);
-            return;
-        }
+        if (std::fabs(phi) >= 1.0) return false;
         *nvl += 1;
         ar[k] = phi;
         p[k] = phi;
@@ -109,7 +83,36 @@ KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[], do
         }
         if (k % 2 == 1) ar[k / 2] = (1.0 - phi) * ar[k / 2];
     }
-    rt::report_success(fail, kRoutine);
+    return true;
+}
+
+}  // namespace kiv::g13
+
+extern "C" {
+
+KIV_API void g13acc(const double r[], int nk, int nl, double p[], double v[], double ar[], int *nvl,
+                    KivError *fail) {
+    if (!kiv::rt::licence_check()) return;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, "g13acc");
+    if (!check.int_above("nk", nk, 0, "0") || !check.int_above("nl", nl, 0, "0")) return;
+    if (nk < nl) {
+        check.report(NE_2_INT_ARG_LT, "nk", nk, "nl", nl, "nk", "nl");
+        return;
+    }
+    if (kiv::g13::report_null_argument(fail, check.routine(),
+                                       {{r, "r"}, {p, "p"}, {v, "v"}, {ar, "ar"}, {nvl, "nvl"}}))
+        return;
+    *nvl = 0;
+    if (std::fabs(r[0]) >= 1.0) {
+        check.report(NE_INVALID_AUTOCO_COEF);
+        return;
+    }
+    if (!kiv::g13::durbin_levinson(r, nl, p, v, ar, nvl)) {
+        check.report(NE_CORR_NOT_POS_DEF);
+        return;
+    }
+    check.success();
 }
 
 }  // extern "C"
