@@ -43,21 +43,15 @@
 
 #include "g01/normal_common.hpp"
 #include "kiv.h"
+#include "runtime/checks.hpp"
 #include "runtime/report.hpp"
 
 namespace kiv::g01 {
 
 bool report_if_outside_unit_interval(double p, KivError *fail, const char *routine,
                                      const char *name) {
-    if (!(p > 0.0)) {
-        rt::report_template(fail, routine, NE_REAL_ARG_LE, name, "0.0", name, p);
-        return true;
-    }
-    if (p >= 1.0) {
-        rt::report_template(fail, routine, NE_REAL_ARG_GE, name, "1.0", name, p);
-        return true;
-    }
-    return false;
+    const rt::Checks check(fail, routine);
+    return !check.real_above(name, p, 0.0, "0.0") || !check.real_below(name, p, 1.0, "1.0");
 }
 
 bool report_if_bad_batch(int n, const double *in, const char *in_name, const double *out,

@@ -80,53 +80,18 @@ void update(const Accumulator &acc, const double *row, double a, double b) {
     for (std::size_t c = 0; c < k; ++c) mean[c] -= a * d[c];
 }
 
-}  // namespace
+enum class PearsonStatus { ok, no_memory, weights_below_one, zero_variance };
 
-extern "C" KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[],
-                               const double wt[], double *sw, double wmean[], double std[],
-                               double r[], int tdr, double v[], int tdv, KivError *fail) {
-    if (!kiv::rt::licence_check()) return;
-    kiv::rt::clear_code(fail);
-    const kiv::rt::Checks check(fail, kRoutine);
-    if (n <= 1) {
-        kiv::rt::report_template(fail, kRoutine, NE_INT_ARG_LE, "n", "1", "n",
-                                 static_cast<long>(n));
-        return;
-    }
-    if (!check.int_not_less("m", m, 1, "1") || !check.stride_at_least("tdx", tdx, "m", m) ||
-        !check.stride_at_least("tdv", tdv, "m", m) || !check.stride_at_least("tdr", tdr, "m", m) ||
-        !check.given("x", x) || !check.given("sx", sx) || !check.given("sw", sw) ||
-        !check.given("wmean", wmean) || !check.given("std", std) || !check.given("r", r) ||
-        !check.given("v", v))
-        return;
-    if (wt != nullptr) {
-        for (int i = 0; i < n; ++i) {
-            if (!(wt[i] >= 0.0)) {
-                kiv::rt::report_code(fail, kRoutine, NE_NEG_WEIGHT);
-                return;
-            }
-        }
-    }
-    std::size_t k = 0;
-    for (int j = 0; j < m; ++j) {
-        if (sx[j] < 0) {
-            kiv::rt::report_code(fail, kRoutine, NE_NEG_SX);
-            return;
-        }
-        if (sx[j] > 0) ++k;
-    }
-    if (k == 0) {
-        kiv::rt::report_code(fail, kRoutine, NE_POS_SX);
-        return;
-    }
-
+// The computation of g02bxc for arguments already checked, k the number of
+// selected variables: one pass of weighted updates of the means and the
+// cross-products, then the outputs. sw is set whenever the pass ran.
+PearsonStatus pearson(int n, int m, const double x[], int tdx, const int sx[], const double wt[],
+                      double *sw, double wmean[], double std[], double r[], int tdr, double v[],
+                      int tdv, std::size_t k) {
     const long long square = kiv::rt::checked_count(m, m);
     kiv::rt::WorkArray<double> work(square < 0 ? -1 : square + 2LL * m);
     kiv::rt::WorkArray<int> columns(work.ok() ? m : -1);
-    if (!columns.ok()) {
-        kiv::rt::report_code(fail, kRoutine, NE_ALLOC_FAIL);
-        return;
-    }
+    if (!columns.ok()) return PearsonStatus::no_memory;
     for (int j = 0, c = 0; j < m; ++j)
         if (sx[j] > 0) columns[static_cast<std::size_t>(c++)] = j;
     const Accumulator acc{k, work.get(), work.get() + k * k, work.get() + k * k + k, columns.get()};
@@ -153,10 +118,7 @@ extern "C" KIV_API void g02bxc(int n, int m, const double x[], int tdx, const in
         }
     }
     *sw = weight_sum;
-    if (weight_sum <= 1.0) {
-        kiv::rt::report_code(fail, kRoutine, NE_SW_LT_ONE);
-        return;
-    }
+    if (weight_sum <= 1.0) return PearsonStatus::weights_below_one;
 
     const double f = 1.0 / (weight_sum - 1.0);
     const std::size_t rs = static_cast<std::size_t>(tdr), vs = static_cast<std::size_t>(tdv);
@@ -176,9 +138,56 @@ extern "C" KIV_API void g02bxc(int n, int m, const double x[], int tdx, const in
             r[c * rs + c2] = r[c2 * rs + c] = correlation;
         }
     }
-    if (zero_variance) {
-        kiv::rt::report_code(fail, kRoutine, NE_VAR_EQ_ZERO);
+    return zero_variance ? PearsonStatus::zero_variance : PearsonStatus::ok;
+}
+
+}  // namespace
+
+extern "C" KIV_API void g02bxc(int n, int m, const double x[], int tdx, const int sx[],
+                               const double wt[], double *sw, double wmean[], double std[],
+                               double r[], int tdr, double v[], int tdv, KivError *fail) {
+    if (!kiv::rt::licence_check()) return;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, kRoutine);
+    if (!check.int_above("n", n, 1, "1") || !check.int_not_less("m", m, 1, "1") ||
+        !check.stride_at_least("tdx", tdx, "m", m) || !check.stride_at_least("tdv", tdv, "m", m) ||
+        !check.stride_at_least("tdr", tdr, "m", m) || !check.given("x", x) ||
+        !check.given("sx", sx) || !check.given("sw", sw) || !check.given("wmean", wmean) ||
+        !check.given("std", std) || !check.given("r", r) || !check.given("v", v))
+        return;
+    if (wt != nullptr) {
+        for (int i = 0; i < n; ++i) {
+            if (!(wt[i] >= 0.0)) {
+                check.report_code_only(NE_NEG_WEIGHT);
+                return;
+            }
+        }
+    }
+    std::size_t k = 0;
+    for (int j = 0; j < m; ++j) {
+        if (sx[j] < 0) {
+            check.report_code_only(NE_NEG_SX);
+            return;
+        }
+        if (sx[j] > 0) ++k;
+    }
+    if (k == 0) {
+        check.report_code_only(NE_POS_SX);
         return;
     }
-    kiv::rt::report_success(fail, kRoutine);
+
+    switch (pearson(n, m, x, tdx, sx, wt, sw, wmean, std, r, tdr, v, tdv, k)) {
+        case PearsonStatus::no_memory:
+            check.report_code_only(NE_ALLOC_FAIL);
+            return;
+        case PearsonStatus::weights_below_one:
+            check.report_code_only(NE_SW_LT_ONE);
+            return;
+        case PearsonStatus::zero_variance:
+            check.report_code_only(NE_VAR_EQ_ZERO);
+            return;
+        case PearsonStatus::ok:
+            check.success();
+            return;
+    }
 }
