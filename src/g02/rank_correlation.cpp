@@ -104,55 +104,32 @@ WideInt squared_rank_differences(const std::uint32_t *rank_a, const std::uint32_
     return sum;
 }
 
-}  // namespace
+// The work arrays of one call, allocated at once; ok() false when any failed.
+struct RankWork {
+    RankWork(int n, int m)
+        : orders(kiv::rt::checked_count(n, m)),
+          ranks(orders.ok() ? kiv::rt::checked_count(n, m) : -1),
+          items(ranks.ok() ? 2LL * n : -1),
+          values(items.ok() ? n : -1),
+          sequence(values.ok() ? 2LL * n : -1),
+          ties(sequence.ok() ? m : -1),
+          columns(ties.ok() ? m : -1) {}
+    bool ok() const { return columns.ok(); }
+    kiv::rt::WorkArray<std::uint32_t> orders, ranks;
+    kiv::rt::WorkArray<KeyedIndex> items;
+    kiv::rt::WorkArray<double> values;
+    kiv::rt::WorkArray<std::uint32_t> sequence;
+    kiv::rt::WorkArray<TieSums> ties;
+    kiv::rt::WorkArray<int> columns;
+};
 
-extern "C" KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[],
-                               const int sobs[], double corr[], int tdc, KivError *fail) {
-    using kiv::rt::WorkArray;
-    if (!kiv::rt::licence_check()) return;
-    kiv::rt::clear_code(fail);
-    const kiv::rt::Checks check(fail, kRoutine);
-    if (!check.int_not_less("n", n, 2, "2") || !check.int_not_less("m", m, 2, "2") ||
-        !check.stride_at_least("tdx", tdx, "m", m) || !check.stride_at_least("tdc", tdc, "m", m) ||
-        !check.given("x", x) || !check.given("corr", corr))
-        return;
-
-    const long long cells = kiv::rt::checked_count(n, m);
-    WorkArray<std::uint32_t> orders(cells);
-    WorkArray<std::uint32_t> ranks(orders.ok() ? cells : -1);
-    WorkArray<KeyedIndex> items(ranks.ok() ? 2LL * n : -1);
-    WorkArray<double> values(items.ok() ? n : -1);
-    WorkArray<std::uint32_t> sequence(values.ok() ? 2LL * n : -1);
-    WorkArray<TieSums> ties(sequence.ok() ? m : -1);
-    WorkArray<int> columns(ties.ok() ? m : -1);
-    if (!columns.ok()) {
-        kiv::rt::report_code(fail, kRoutine, NE_ALLOC_FAIL);
-        return;
-    }
-
-    if (sobs != nullptr) {
-        const long long selected = count_selected(fail, "sobs", "sobs[i] >=", sobs, n);
-        if (selected < 0) return;
-        if (selected < 2) {
-            kiv::rt::report_code(fail, kRoutine, NE_SOBS_LOW);
-            return;
-        }
-    }
-    int k = m;
-    if (svar != nullptr) {
-        const long long selected = count_selected(fail, "svar", "svar[i] >=", svar, m);
-        if (selected < 0) return;
-        if (selected < 1) {
-            kiv::rt::report_code(fail, kRoutine, NE_SVAR_LOW);
-            return;
-        }
-        k = static_cast<int>(selected);
-    }
-    if (k == 1) {
-        corr[0] = 1.0;
-        kiv::rt::report_success(fail, kRoutine);
-        return;
-    }
+// The computation of g02brc for arguments already checked and k >= 2
+// selected variables: each variable ranked once over the selected
+// observations, then Kendall's tau_b below and Spearman's rho above the
+// diagonal of corr.
+void rank_correlations(int n, int m, const double x[], int tdx, const int svar[], const int sobs[],
+                       double corr[], int tdc, int k, RankWork &work) {
+    auto &[orders, ranks, items, values, sequence, ties, columns] = work;
     for (int j = 0, c = 0; j < m; ++j)
         if (svar == nullptr || svar[j] > 0) columns[static_cast<std::size_t>(c++)] = j;
 
@@ -186,5 +163,48 @@ extern "C" KIV_API void g02brc(int n, int m, const double x[], int tdx, const in
                 spearman_rho(squared_rank_differences(rank_a, rank_b, count), ties[a], ties[b]);
         }
     }
-    kiv::rt::report_success(fail, kRoutine);
+}
+
+}  // namespace
+
+extern "C" KIV_API void g02brc(int n, int m, const double x[], int tdx, const int svar[],
+                               const int sobs[], double corr[], int tdc, KivError *fail) {
+    if (!kiv::rt::licence_check()) return;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, kRoutine);
+    if (!check.int_not_less("n", n, 2, "2") || !check.int_not_less("m", m, 2, "2") ||
+        !check.stride_at_least("tdx", tdx, "m", m) || !check.stride_at_least("tdc", tdc, "m", m) ||
+        !check.given("x", x) || !check.given("corr", corr))
+        return;
+
+    RankWork work(n, m);
+    if (!work.ok()) {
+        check.report_code_only(NE_ALLOC_FAIL);
+        return;
+    }
+    if (sobs != nullptr) {
+        const long long selected = count_selected(fail, "sobs", "sobs[i] >=", sobs, n);
+        if (selected < 0) return;
+        if (selected < 2) {
+            check.report_code_only(NE_SOBS_LOW);
+            return;
+        }
+    }
+    int k = m;
+    if (svar != nullptr) {
+        const long long selected = count_selected(fail, "svar", "svar[i] >=", svar, m);
+        if (selected < 0) return;
+        if (selected < 1) {
+            check.report_code_only(NE_SVAR_LOW);
+            return;
+        }
+        k = static_cast<int>(selected);
+    }
+    if (k == 1) {
+        corr[0] = 1.0;
+        check.success();
+        return;
+    }
+    rank_correlations(n, m, x, tdx, svar, sobs, corr, tdc, k, work);
+    check.success();
 }
