@@ -83,46 +83,19 @@ int scaled_blocks(const double *r, std::size_t tdr, const Blocks &b, double *sca
     return 0;
 }
 
-}  // namespace
-
-extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr,
-                               double p[], int tdp, KivError *fail) {
-    if (!kiv::rt::licence_check()) return;
-    kiv::rt::clear_code(fail);
-    const kiv::rt::Checks check(fail, kRoutine);
-    if (!check.int_not_less("m", m, 3, "3") || !check.int_not_less("ny", ny, 2, "2") ||
-        !check.int_not_less("nx", nx, 1, "1"))
-        return;
-    if (static_cast<long long>(ny) + nx > m) {
-        kiv::rt::report_template(fail, kRoutine, NE_3_INT_ARG_CONS, "ny", static_cast<long>(ny),
-                                 "nx", static_cast<long>(nx), "m", static_cast<long>(m),
-                                 "ny + nx <= m");
-        return;
-    }
-    if (!check.stride_at_least("tdr", tdr, "m", m) ||
-        !check.stride_at_least("tdp", tdp, "ny", ny) || !check.given("isz", isz) ||
-        !check.given("r", r) || !check.given("p", p))
-        return;
-    long negatives = 0, positives = 0;
-    for (int j = 0; j < m; ++j) negatives += isz[j]<0, positives += isz[j]> 0;
-    if (negatives != ny) {
-        kiv::rt::report_template(fail, kRoutine, NE_BAD_NY_SET, static_cast<long>(ny), negatives);
-        return;
-    }
-    if (positives != nx) {
-        kiv::rt::report_template(fail, kRoutine, NE_BAD_NX_SET, static_cast<long>(nx));
-        return;
-    }
-
+// The computation of g02byc for arguments already checked: the partial
+// correlations of the ny variables marked isz < 0 given the nx marked > 0,
+// by a pivoted QR of the scaled R_xx block. Returns 0, or the code of the
+// fault (NE_ALLOC_FAIL, NE_COR_MAT_RANK, NE_COR_MAT_POSDEF, or the defect
+// found while scaling the blocks).
+int partial_correlations(int m, int ny, int nx, const int isz[], const double r[], int tdr,
+                         double p[], int tdp) {
     // ny + nx <= m < 2^31, so the block sizes below cannot overflow 64 bits.
     const long long x_count = nx, y_count = ny;
     kiv::rt::WorkArray<double> work(x_count * x_count + 2 * x_count * y_count + y_count * y_count +
                                     3 * x_count + y_count);
     kiv::rt::WorkArray<int> index(work.ok() ? 2LL * m : -1);
-    if (!index.ok()) {
-        kiv::rt::report_code(fail, kRoutine, NE_ALLOC_FAIL);
-        return;
-    }
+    if (!index.ok()) return NE_ALLOC_FAIL;
     int *y = index.get(), *x = index.get() + ny, *perm = index.get() + m;
     for (int j = 0, cy = 0, cx = 0; j < m; ++j) {
         if (isz[j] < 0) y[cy++] = j;
@@ -150,13 +123,9 @@ extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const dou
     const int defect = scaled_blocks(r, static_cast<std::size_t>(tdr), b, scale_x, scale_y);
     if (defect == 0 &&
         kiv::kernels::qr_pivoted(b.xx, nx, nx, nx, perm, tau, norms, tolerance) < nx) {
-        kiv::rt::report_code(fail, kRoutine, NE_COR_MAT_RANK);
-        return;
+        return NE_COR_MAT_RANK;
     }
-    if (defect != 0) {
-        kiv::rt::report_code(fail, kRoutine, defect);
-        return;
-    }
+    if (defect != 0) return defect;
     kiv::kernels::apply_qt(b.xx, nx, nx, nx, tau, b.xy, ny, ny);
     kiv::kernels::solve_upper(b.xx, nx, nx, b.xy, ny, ny);
     // S = R_yy - (P^T R_xy)^T Z, Z = R^-1 Q^T R_xy.
@@ -169,8 +138,7 @@ extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const dou
         }
     for (std::size_t i = 0; i < sy; ++i) {
         if (!(b.yy[i * sy + i] > tolerance)) {
-            kiv::rt::report_code(fail, kRoutine, NE_COR_MAT_POSDEF);
-            return;
+            return NE_COR_MAT_POSDEF;
         }
     }
     const std::size_t stride = static_cast<std::size_t>(tdp);
@@ -180,13 +148,48 @@ extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const dou
             const double s = 0.5 * (b.yy[i * sy + j] + b.yy[j * sy + i]);
             double value = s / (std::sqrt(b.yy[i * sy + i]) * std::sqrt(b.yy[j * sy + j]));
             if (std::fabs(value) > 1.0 + tolerance) {
-                kiv::rt::report_code(fail, kRoutine, NE_COR_MAT_POSDEF);
-                return;
+                return NE_COR_MAT_POSDEF;
             }
             if (value > 1.0) value = 1.0;  // rounding beyond +-1; a NaN stays NaN
             if (value < -1.0) value = -1.0;
             p[i * stride + j] = p[j * stride + i] = value;
         }
     }
-    kiv::rt::report_success(fail, kRoutine);
+    return 0;
+}
+
+}  // namespace
+
+extern "C" KIV_API void g02byc(int m, int ny, int nx, const int isz[], const double r[], int tdr,
+                               double p[], int tdp, KivError *fail) {
+    if (!kiv::rt::licence_check()) return;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, kRoutine);
+    if (!check.int_not_less("m", m, 3, "3") || !check.int_not_less("ny", ny, 2, "2") ||
+        !check.int_not_less("nx", nx, 1, "1"))
+        return;
+    if (static_cast<long long>(ny) + nx > m) {
+        check.report(NE_3_INT_ARG_CONS, "ny", ny, "nx", nx, "m", m, "ny + nx <= m");
+        return;
+    }
+    if (!check.stride_at_least("tdr", tdr, "m", m) ||
+        !check.stride_at_least("tdp", tdp, "ny", ny) || !check.given("isz", isz) ||
+        !check.given("r", r) || !check.given("p", p))
+        return;
+    long negatives = 0, positives = 0;
+    for (int j = 0; j < m; ++j) negatives += isz[j]<0, positives += isz[j]> 0;
+    if (negatives != ny) {
+        check.report(NE_BAD_NY_SET, ny, negatives);
+        return;
+    }
+    if (positives != nx) {
+        check.report(NE_BAD_NX_SET, nx);
+        return;
+    }
+
+    if (const int fault = partial_correlations(m, ny, nx, isz, r, tdr, p, tdp); fault != 0) {
+        check.report_code_only(fault);
+        return;
+    }
+    check.success();
 }
