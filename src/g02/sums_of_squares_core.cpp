@@ -62,6 +62,34 @@ void core_exit(const char *core, int failure, int identifier, int integer, const
     *ifail = kiv_ifail_exit(*ifail, failure, core, failure != 0 ? 1 : 0, fault, 6, kFaultLength);
 }
 
+// The argument checks of a core routine: refuse() tests one condition and,
+// when it holds, writes the offending value as text into the fault area
+// (with core_exit) and returns true.
+class CoreChecks {
+public:
+    CoreChecks(const char *core, int *ifail, char *fault)
+        : core_(core), ifail_(ifail), fault_(fault) {}
+    bool refuse(bool bad, int identifier, long value, int integer = 0) const {
+        if (!bad) return false;
+        char text[32];
+        std::snprintf(text, sizeof text, "%ld", value);
+        core_exit(core_, 1, identifier, integer, text, ifail_, fault_);
+        return true;
+    }
+    bool refuse(bool bad, int identifier, double value, int integer = 0) const {
+        if (!bad) return false;
+        char text[32];
+        std::snprintf(text, sizeof text, "%g", value);
+        core_exit(core_, 1, identifier, integer, text, ifail_, fault_);
+        return true;
+    }
+
+private:
+    const char *core_;
+    int *ifail_;
+    char *fault_;
+};
+
 bool fault_area_too_short(int fault_length, int *ifail) {
     if (fault_length >= kFaultLength) return false;
     *ifail = -999;  // no room for a fault text
@@ -92,28 +120,14 @@ void g02btz(char mean, int m, double wt, const double *x, int incx, double *sw, 
             double *c, int *ifail, char *fault, int fault_length) {
     constexpr const char *core = "g02btz";
     if (fault_area_too_short(fault_length, ifail)) return;
-    char value[32];
-    if (!valid_mode(mean)) {
-        std::snprintf(value, sizeof value, "%d", mean);
-        return core_exit(core, 1, kFaultModeLetter, 0, value, ifail, fault);
-    }
-    if (incx < 1) {
-        std::snprintf(value, sizeof value, "%d", incx);
-        return core_exit(core, 1, kFaultIncrement, 0, value, ifail, fault);
-    }
-    if (m < 1) {
-        std::snprintf(value, sizeof value, "%d", m);
-        return core_exit(core, 1, kFaultFirstSize, 0, value, ifail, fault);
-    }
-    if (!(*sw >= 0.0)) {
-        std::snprintf(value, sizeof value, "%g", *sw);
-        return core_exit(core, 1, kFaultSumOfWeights, 0, value, ifail, fault);
-    }
+    const CoreChecks check(core, ifail, fault);
+    if (check.refuse(!valid_mode(mean), kFaultModeLetter, static_cast<long>(mean)) ||
+        check.refuse(incx < 1, kFaultIncrement, static_cast<long>(incx)) ||
+        check.refuse(m < 1, kFaultFirstSize, static_cast<long>(m)) ||
+        check.refuse(!(*sw >= 0.0), kFaultSumOfWeights, *sw))
+        return;
     const double total = *sw + wt;
-    if (!(total >= 0.0)) {
-        std::snprintf(value, sizeof value, "%g", total);
-        return core_exit(core, 1, kFaultSumWeight, 0, value, ifail, fault);
-    }
+    if (check.refuse(!(total >= 0.0), kFaultSumWeight, total)) return;
     const std::size_t count = static_cast<std::size_t>(m);
     const std::size_t step = static_cast<std::size_t>(incx);
     if (wt == 0.0) return core_exit(core, 0, 0, 0, "", ifail, fault);
@@ -149,31 +163,17 @@ void g02buz(char mean, int n, int m, const double *x, int ldx, const double *wt,
             double *wmean, double *c, int *ifail, char *fault, int fault_length) {
     constexpr const char *core = "g02buz";
     if (fault_area_too_short(fault_length, ifail)) return;
-    char value[32];
-    if (!valid_mode(mean)) {
-        std::snprintf(value, sizeof value, "%d", mean);
-        return core_exit(core, 1, kFaultModeLetter, 0, value, ifail, fault);
-    }
-    if (n < 1) {
-        std::snprintf(value, sizeof value, "%d", n);
-        return core_exit(core, 1, kFaultFirstSize, 0, value, ifail, fault);
-    }
-    if (m < 1) {
-        std::snprintf(value, sizeof value, "%d", m);
-        return core_exit(core, 1, kFaultSecondSize, 0, value, ifail, fault);
-    }
-    if (ldx < n) {
-        std::snprintf(value, sizeof value, "%d", n);
-        return core_exit(core, 1, kFaultStride, ldx, value, ifail, fault);
-    }
+    const CoreChecks check(core, ifail, fault);
+    if (check.refuse(!valid_mode(mean), kFaultModeLetter, static_cast<long>(mean)) ||
+        check.refuse(n < 1, kFaultFirstSize, static_cast<long>(n)) ||
+        check.refuse(m < 1, kFaultSecondSize, static_cast<long>(m)) ||
+        check.refuse(ldx < n, kFaultStride, static_cast<long>(n), ldx))
+        return;
     const std::size_t rows = static_cast<std::size_t>(n), cols = static_cast<std::size_t>(m);
     const std::size_t ld = static_cast<std::size_t>(ldx);
     if (wt != nullptr) {
         for (std::size_t i = 0; i < rows; ++i) {
-            if (!(wt[i] >= 0.0)) {
-                std::snprintf(value, sizeof value, "%g", wt[i]);
-                return core_exit(core, 1, kFaultWeight, static_cast<int>(i), value, ifail, fault);
-            }
+            if (check.refuse(!(wt[i] >= 0.0), kFaultWeight, wt[i], static_cast<int>(i))) return;
         }
     }
     auto weight = [wt](std::size_t i) { return wt == nullptr ? 1.0 : wt[i]; };
@@ -216,11 +216,7 @@ void g02buz(char mean, int n, int m, const double *x, int ldx, const double *wt,
 void g02bwz(int m, double *r, int *ifail, char *fault, int fault_length) {
     constexpr const char *core = "g02bwz";
     if (fault_area_too_short(fault_length, ifail)) return;
-    if (m < 1) {
-        char value[32];
-        std::snprintf(value, sizeof value, "%d", m);
-        return core_exit(core, 1, kFaultFirstSize, 0, value, ifail, fault);
-    }
+    if (CoreChecks(core, ifail, fault).refuse(m < 1, kFaultFirstSize, static_cast<long>(m))) return;
     const std::size_t count = static_cast<std::size_t>(m);
     bool zero_variance = false;
     for (std::size_t j = 0; j < count; ++j) {
