@@ -861,6 +861,20 @@ KIV_API void g01aac(int n, const double x[], const double wt[], int *nvalid, dou
                     double *xsd, double *xskew, double *xkurt, double *xmin, double *xmax,
                     double *wsum, KivError *fail);
 
+/* Student's t tail probability (lower, upper, two-tail significance or
+   confidence), real df > 0 (df = +inf: the normal). */
+KIV_API double g01ebc(Kiv_Tail tail, double t, double df, KivError *fail);
+/* F distribution tail probability (lower or upper), f >= 0, df1, df2 > 0. */
+KIV_API double g01edc(Kiv_Tail tail, double f, double df1, double df2, KivError *fail);
+/* The same with the integer error-flag interface: tail "L" or "U" (first
+   character, either case); ifail 1 bad tail, 2 f < 0, 3 df1 or df2 <= 0. */
+KIV_API double g01edf(const char *tail, double f, double df1, double df2, int *ifail,
+                      int tail_len);
+/* Beta distribution B(a, b) at 0 <= x <= 1: p = I_x(a, b), q = 1 - p (each
+   direct) and the density; tol the relative accuracy asked (0 = best). */
+KIV_API void g01eec(double x, double a, double b, double tol, double *p, double *q, double *pdf,
+                    KivError *fail);
+
 /* ---- random numbers -------------------------------------------------------- */
 /* The next uniform number in (0, 1) of the thread's basic generator. */
 KIV_API double g05cac(void);

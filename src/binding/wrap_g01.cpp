@@ -156,11 +156,12 @@ KIV_API double g01eac_chdl(void *varg) {
 
 KIV_API double g01ebc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto tail = frame.arg<Kiv_Tail>();
+    const auto t = frame.arg<double>();
+    const auto df = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01ebc", fail);
-    return 0.0;
+    return g01ebc(tail, t, df, fail);
 }
 
 KIV_API double g01ebf_f_chdl(void *varg) {
@@ -182,26 +183,38 @@ KIV_API double g01ecc_chdl(void *varg) {
 
 KIV_API double g01edc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(4);
+    const auto tail = frame.arg<Kiv_Tail>();
+    const auto f = frame.arg<double>();
+    const auto df1 = frame.arg<double>();
+    const auto df2 = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01edc", fail);
-    return 0.0;
+    return g01edc(tail, f, df1, df2, fail);
 }
 
 KIV_API double g01edf_f_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(6);
-    kiv::binding::print_not_available("g01edf");
-    return 0.0;
+    const auto tail = frame.arg<const char *>();
+    const auto f = frame.arg<double>();
+    const auto df1 = frame.arg<double>();
+    const auto df2 = frame.arg<double>();
+    const auto ifail = frame.arg<int *>();
+    const auto tail_len = frame.arg<int>();
+    return g01edf(tail, f, df1, df2, ifail, tail_len);
 }
 
 KIV_API void g01eec_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(7);
+    const auto x = frame.arg<double>();
+    const auto a = frame.arg<double>();
+    const auto b = frame.arg<double>();
+    const auto tol = frame.arg<double>();
+    const auto p = frame.arg<double *>();
+    const auto q = frame.arg<double *>();
+    const auto pdf = frame.arg<double *>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01eec", fail);
+    g01eec(x, a, b, tol, p, q, pdf, fail);
 }
 
 KIV_API double g01efc_chdl(void *varg) {

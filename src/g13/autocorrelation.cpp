@@ -248,8 +248,7 @@ KIV_API void g13abc(const double x[], int nx, int nk, double *xm, double *xv, do
     if (!kiv::rt::licence_check()) return;
     kiv::rt::clear_code(fail);
     const kiv::rt::Checks check(fail, "g13abc");
-    if (!check.int_above("nx", nx, 1, "1") || !check.int_above("nk", nk, 0, "0"))
-        return;
+    if (!check.int_above("nx", nx, 1, "1") || !check.int_above("nk", nk, 0, "0")) return;
     if (nk >= nx) {
         check.report(NE_2_INT_ARG_LE, "nx", nx, "nk", nk, "nx", "nk");
         return;

@@ -491,10 +491,53 @@ std::vector<Case> null_pointer_cases() {
     };
 }
 
+// Student's t, F and beta: every check in order, NaN and infinities.
+std::vector<Case> student_f_beta_cases() {
+    auto ebc = [](int tail, double t, double df) {
+        return [=](Scratch &s, KivError *f) {
+            s.result = g01ebc(static_cast<Kiv_Tail>(tail), t, df, f);
+        };
+    };
+    auto edc = [](int tail, double x, double d1, double d2) {
+        return [=](Scratch &s, KivError *f) {
+            s.result = g01edc(static_cast<Kiv_Tail>(tail), x, d1, d2, f);
+        };
+    };
+    auto eec = [](double x, double a, double b, double tol) {
+        return [=](Scratch &s, KivError *f) {
+            g01eec(x, a, b, tol, &s.out[0], &s.out[1], &s.out[2], f);
+        };
+    };
+    const Check zero = returns_zero;
+    const int lower = Kiv_LowerTail;
+    return {
+        {"g01ebc", ebc(1333, 1.0, 0.0), NE_BAD_PARAM, bad_param("tail"), zero},
+        {"g01ebc", ebc(1328, 1.0, 2.0), NE_BAD_PARAM, bad_param("tail"), zero},
+        {"g01ebc", ebc(lower, 1.0, 0.0), NE_REAL_ARG_LE, le("df", "0.0", "0"), zero},
+        {"g01ebc", ebc(lower, 1.0, kNaN), NE_REAL_ARG_LE, le("df", "0.0", "nan"), zero},
+        {"g01ebc", ebc(lower, 1.0, -kInf), NE_REAL_ARG_LE, le("df", "0.0", "-inf"), zero},
+        {"g01ebc", ebc(lower, kNaN, 2.0), NE_REAL,
+         "NE_REAL:\n  On entry, t = nan.\n  Constraint: t must not be NaN.", zero},
+        {"g01edc", edc(Kiv_Central, 1.0, 2.0, 3.0), NE_BAD_PARAM, bad_param("tail"), zero},
+        {"g01edc", edc(lower, -1.0, 0.0, 0.0), NE_REAL_ARG_LT, lt("f", "0.0", "-1"), zero},
+        {"g01edc", edc(lower, kNaN, 2.0, 3.0), NE_REAL_ARG_LT, lt("f", "0.0", "nan"), zero},
+        {"g01edc", edc(lower, 1.0, 0.0, 3.0), NE_REAL_ARG_LE, le("df1", "0.0", "0"), zero},
+        {"g01edc", edc(lower, 1.0, 2.0, kNaN), NE_REAL_ARG_LE, le("df2", "0.0", "nan"), zero},
+        {"g01eec", eec(-0.5, 0.0, 0.0, -1.0), NE_REAL_ARG_LT, lt("x", "0.0", "-0.5")},
+        {"g01eec", eec(kNaN, 1.0, 1.0, 0.0), NE_REAL_ARG_LT, lt("x", "0.0", "nan")},
+        {"g01eec", eec(1.5, 1.0, 1.0, 0.0), NE_REAL_ARG_GT,
+         bound("NE_REAL_ARG_GT", "greater than", "x", "1.0", "1.5")},
+        {"g01eec", eec(0.5, 0.0, 1.0, 0.0), NE_REAL_ARG_LE, le("a", "0.0", "0")},
+        {"g01eec", eec(0.5, 1.0, kNaN, 0.0), NE_REAL_ARG_LE, le("b", "0.0", "nan")},
+        {"g01eec", eec(0.5, kInf, 1.0, 0.0), NE_REAL_ARG_GE, ge("a", "inf", "inf")},
+        {"g01eec", eec(0.5, 1.0, 1.0, -1e-3), NE_REAL_ARG_LT, lt("tol", "0.0", "-0.001")},
+    };
+}
+
 std::vector<Case> all_cases() {
     std::vector<Case> cases;
     for (auto part : {normal_cases, gamma_cases, moments_cases, correlation_cases,
-                      time_series_cases, null_pointer_cases})
+                      time_series_cases, null_pointer_cases, student_f_beta_cases})
         for (Case &c : part()) cases.push_back(std::move(c));
     return cases;
 }

@@ -110,6 +110,25 @@ const std::vector<RoutineSpec> &routines() {
          "tail: as for g01eac; n: number of values; x: the deviates; out: the probabilities",
          "void g01eac_v(Kiv_Tail tail, int n, const double *x, double *out, KivError *fail)",
          "n < 0: NE_INT; a null array: NE_BAD_PARAM; bad tail: NE_BAD_PARAM"},
+        {"g01ebc",
+         "Student's t tail probability",
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
+           "Kiv_LowerTail,Kiv_UpperTail,Kiv_TwoTailSignif,Kiv_TwoTailConfid"},
+          {"t", ArgKind::Double},
+          {"df", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const auto tail = static_cast<Kiv_Tail>(given.integer(0));
+             const double t = given.real(1);
+             const double df = given.real(2);
+             printed.scalar("result", g01ebc(tail, t, df, fail));
+         },
+         "Kiv_UpperTail 2.0 10",
+         "tail: lower P(T <= t), upper P(T >= t), two-tail significance P(|T| >= |t|) or "
+         "confidence P(|T| <= |t|); t: the value; df: degrees of freedom, df > 0 (inf: the "
+         "normal); result: the probability",
+         "double g01ebc(Kiv_Tail tail, double t, double df, KivError *fail)",
+         "bad tail: NE_BAD_PARAM; df <= 0 or NaN: NE_REAL_ARG_LE; t NaN: NE_REAL"},
         {"g01ecc",
          "chi-square tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
@@ -128,6 +147,81 @@ const std::vector<RoutineSpec> &routines() {
          "double g01ecc(Kiv_Tail tail, double x, double df, KivError *fail)",
          "x < 0: NE_REAL_ARG_LT; df <= 0: NE_REAL_ARG_LE; bad tail: NE_BAD_PARAM; no convergence: "
          "NE_ALG_NOT_CONV"},
+        {"g01edc",
+         "F distribution tail probability",
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
+          {"f", ArgKind::Double},
+          {"df1", ArgKind::Double},
+          {"df2", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const auto tail = static_cast<Kiv_Tail>(given.integer(0));
+             const double f = given.real(1);
+             const double df1 = given.real(2);
+             const double df2 = given.real(3);
+             printed.scalar("result", g01edc(tail, f, df1, df2, fail));
+         },
+         "Kiv_UpperTail 3.5 4 20",
+         "tail: lower P(F <= f) or upper P(F >= f); f: the value, f >= 0; df1: numerator degrees "
+         "of freedom, df1 > 0; df2: denominator degrees of freedom, df2 > 0; result: the "
+         "probability",
+         "double g01edc(Kiv_Tail tail, double f, double df1, double df2, KivError *fail)",
+         "bad tail: NE_BAD_PARAM; f < 0: NE_REAL_ARG_LT; df1 <= 0: NE_REAL_ARG_LE; df2 <= 0: "
+         "NE_REAL_ARG_LE"},
+        {"g01edf",
+         "F tail probability with the error-flag interface (tail L or U)",
+         {{"tail", ArgKind::Text},
+          {"f", ArgKind::Double},
+          {"df1", ArgKind::Double},
+          {"df2", ArgKind::Double},
+          {"ifail", ArgKind::Int},
+          {"tail_len", ArgKind::Int}},
+         false,
+         [](In given, Outputs &printed, KivError *) {
+             const char *tail = given.text(0);
+             const double f = given.real(1);
+             const double df1 = given.real(2);
+             const double df2 = given.real(3);
+             int ifail = given.integer(4);
+             const int tail_len = given.integer(5);
+             printed.scalar("result", g01edf(tail, f, df1, df2, &ifail, tail_len));
+             printed.integer("ifail", ifail);
+         },
+         "U 3.5 4 20 1 1",
+         "tail: L (lower) or U (upper); f: the value, f >= 0; df1: numerator degrees of freedom; "
+         "df2: denominator degrees of freedom; ifail: 0 hard, 1 soft silent, -1 soft noisy on "
+         "entry, the failure number on exit; tail_len: length of tail; result: the probability",
+         "double g01edf(const char *tail, double f, double df1, double df2, int *ifail, int "
+         "tail_len)",
+         "bad tail: ifail 1; f < 0: ifail 2; df1 or df2 <= 0: ifail 3"},
+        {"g01eec",
+         "beta distribution: lower and upper tails and density",
+         {{"x", ArgKind::Double},
+          {"a", ArgKind::Double},
+          {"b", ArgKind::Double},
+          {"tol", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double x = given.real(0);
+             const double a = given.real(1);
+             const double b = given.real(2);
+             const double tol = given.real(3);
+             double p = 0;
+             double q = 0;
+             double pdf = 0;
+             g01eec(x, a, b, tol, &p, &q, &pdf, fail);
+             printed.scalar("p", p);
+             printed.scalar("q", q);
+             printed.scalar("pdf", pdf);
+         },
+         "0.3 2 5 0",
+         "x: the value, 0 <= x <= 1; a: first shape, a > 0; b: second shape, b > 0; tol: relative "
+         "accuracy asked, 0 for the best; p: I_x(a, b); q: 1 - I_x(a, b); pdf: the density at x",
+         "void g01eec(double x, double a, double b, double tol, double *p, double *q, double *pdf, "
+         "KivError *fail)",
+         "x < 0: NE_REAL_ARG_LT; x > 1: NE_REAL_ARG_GT; a <= 0: NE_REAL_ARG_LE; b <= 0: "
+         "NE_REAL_ARG_LE; a or b infinite: NE_REAL_ARG_GE; tol < 0: NE_REAL_ARG_LT; a null output: "
+         "NE_BAD_PARAM; no convergence: NE_ALG_NOT_CONV"},
         {"g01efc",
          "gamma tail probability (shape a, scale b)",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail"},
