@@ -69,22 +69,6 @@ namespace {
 constexpr int kMaxTerms = 100000;
 constexpr long double kHalfLogTwoPiL = 0.918938533204672741780329736405617639L;
 
-// ln(1 + z) - z in long double, with small relative error near z = 0.
-long double log1pmx_long(long double z) {
-    if (z < -0.5L || z > 0.5L) return std::log1p(z) - z;
-    const long double t = z / (2.0L + z);
-    const long double t2 = t * t;
-    long double power = 1.0L;
-    long double sum = 1.0L / 3.0L;
-    for (int k = 1; k < 80; ++k) {
-        power *= t2;
-        const long double term = power / (2 * k + 3);
-        sum += term;
-        if (term < 0x1p-66L * sum) break;
-    }
-    return t * (2.0L * t2 * sum - z);
-}
-
 // The Stirling correction mu(a) = ln Gamma(a) - (a - 1/2) ln a + a - ln sqrt(2 pi),
 // for a >= 10.
 long double mu(double a) {
@@ -115,26 +99,34 @@ long double log_of(double value, double complement) {
                             : std::log(static_cast<long double>(value));
 }
 
-// ln (x^a y^b / B(a, b)) in long double.
-long double log_prefactor(double a, double b, double x, double y) {
+// e^L - 1 - L in long double, without cancellation for small |L|.
+long double expm1mx_long(long double L) {
+    if (std::fabs(L) > 0.5L) return std::expm1(L) - L;
+    long double term = L * L / 2.0L;
+    long double sum = term;
+    for (int k = 3; k < 40; ++k) {
+        term *= L / k;
+        sum += term;
+        if (std::fabs(term) < 0x1p-66L * std::fabs(sum)) break;
+    }
+    return sum;
+}
+
+// ln (x^a y^b / B(a, b)) in long double, from ln x and ln y (which the
+// callers form from their own exact arguments).
+long double log_prefactor(double a, double b, long double log_x, long double log_y) {
     if (a >= 10.0 && b >= 10.0) {
+        // a (ln(1 + u) - u) + b (ln(1 + v) - v), 1 + u = x (a + b)/a,
+        // 1 + v = y (a + b)/b, each bracket as -(e^L - 1 - L) of its
+        // logarithm L: free of cancellation near the mean (u, v near 0).
         const long double la = a, lb = b, s = la + lb;
-        const long double d = static_cast<long double>(x) * s - la;  // x (a + b) - a
-        const long double u = d / la, v = -d / lb;
-        // a (ln(1 + u) - u) with 1 + u = x (a + b)/a; far from u = 0 the
-        // logarithm is taken of x and (a + b)/a apart, so that 1 + u near 0
-        // loses nothing (and likewise for b, v and y).
-        const long double term_a = std::fabs(u) <= 0.5L
-                                       ? la * log1pmx_long(u)
-                                       : la * (log_of(x, y) + std::log1p(lb / la)) - d;
-        const long double term_b = std::fabs(v) <= 0.5L
-                                       ? lb * log1pmx_long(v)
-                                       : lb * (log_of(y, x) + std::log1p(la / lb)) + d;
+        const long double term_a = -la * expm1mx_long(log_x + std::log1p(lb / la));
+        const long double term_b = -lb * expm1mx_long(log_y + std::log1p(la / lb));
         return 0.5L * std::log(la * lb / s) - kHalfLogTwoPiL + term_a + term_b +
                mu(static_cast<double>(s)) - mu(a) - mu(b);
     }
     const long double terms =
-        static_cast<long double>(a) * log_of(x, y) + static_cast<long double>(b) * log_of(y, x);
+        static_cast<long double>(a) * log_x + static_cast<long double>(b) * log_y;
     if (b >= 10.0) return terms - log_gamma_positive(a) - log_gamma_ratio(a, b);
     if (a >= 10.0) return terms - log_gamma_positive(b) - log_gamma_ratio(b, a);
     const double sum = a + b;
@@ -184,11 +176,17 @@ bool continued_fraction(double a_in, double b_in, double x_in, double tol, long 
 
 double beta_prefactor(double a, double b, double x, double y) {
     if (x <= 0.0 || y <= 0.0) return 0.0;
-    return exp_long(log_prefactor(a, b, x, y));
+    return exp_long(log_prefactor(a, b, log_of(x, y), log_of(y, x)));
 }
 
 IncompleteBetaStatus incomplete_beta(double a, double b, double x, double y, double tol, double *w,
                                      double *w1) {
+    if (x <= 0.0 || y <= 0.0) return incomplete_beta_logs(a, b, x, y, 0.0L, 0.0L, tol, w, w1);
+    return incomplete_beta_logs(a, b, x, y, log_of(x, y), log_of(y, x), tol, w, w1);
+}
+
+IncompleteBetaStatus incomplete_beta_logs(double a, double b, double x, double y, long double log_x,
+                                          long double log_y, double tol, double *w, double *w1) {
     if (x <= 0.0) {
         *w = 0.0;
         *w1 = 1.0;
@@ -203,11 +201,12 @@ IncompleteBetaStatus incomplete_beta(double a, double b, double x, double y, dou
     const double accuracy = std::max(tol, eps);
     // Compute the tail on the side where the continued fraction converges.
     const bool swap = x >= (a + 1.0) / (a + b + 2.0);
-    const double pa = swap ? b : a, pb = swap ? a : b, px = swap ? y : x, py = swap ? x : y;
+    const double pa = swap ? b : a, pb = swap ? a : b, px = swap ? y : x;
+    const long double plx = swap ? log_y : log_x, ply = swap ? log_x : log_y;
     long double fraction = 0.0L;
     const bool converged = continued_fraction(pa, pb, px, accuracy * 0x1p-11, &fraction);
-    const double tail =
-        exp_long(log_prefactor(pa, pb, px, py) - std::log(static_cast<long double>(pa) / fraction));
+    const double tail = exp_long(log_prefactor(pa, pb, plx, ply) -
+                                 std::log(static_cast<long double>(pa) / fraction));
     const double other = 1.0 - tail;
     *w = swap ? other : tail;
     *w1 = swap ? tail : other;
@@ -216,16 +215,22 @@ IncompleteBetaStatus incomplete_beta(double a, double b, double x, double y, dou
 
 void student_t_two_tails(double t, double df, double *beyond, double *within) {
     const double at = std::fabs(t);
-    double x, y;  // x = df / (df + t^2), y = t^2 / (df + t^2)
-    if (at > 1e150) {
-        x = std::isinf(at) ? 0.0 : (df / at) / at;
+    // x = df / (df + t^2), y = t^2 / (df + t^2), with their logarithms formed
+    // in long double from t and df themselves (t^2 to 64 bits).
+    const long double s = static_cast<long double>(at) * at, n = df;
+    double x, y;
+    long double log_x, log_y;
+    if (std::isinf(at)) {
+        x = 0.0;
         y = 1.0;
+        log_x = log_y = 0.0L;
     } else {
-        const double s = at * at;
-        x = df / (df + s);
-        y = s / (df + s);
+        x = static_cast<double>(n / (n + s));
+        y = static_cast<double>(s / (n + s));
+        log_x = -std::log1p(s / n);
+        log_y = at == 0.0 ? 0.0L : -std::log1p(n / s);
     }
-    incomplete_beta(0.5 * df, 0.5, x, y, 0.0, beyond, within);
+    incomplete_beta_logs(0.5 * df, 0.5, x, y, log_x, log_y, 0.0, beyond, within);
 }
 
 void student_t_tails(double t, double df, double *lower, double *upper) {
@@ -248,16 +253,14 @@ void f_tails(double f, double df1, double df2, double *lower, double *upper) {
         *upper = 0.0;
         return;
     }
-    const double scaled = df1 * f;
-    double x, y;
-    if (std::isinf(scaled)) {
-        x = 1.0;
-        y = 0.0;
-    } else {
-        x = scaled / (scaled + df2);
-        y = df2 / (scaled + df2);
-    }
-    incomplete_beta(0.5 * df1, 0.5 * df2, x, y, 0.0, lower, upper);
+    // x = df1 f / (df1 f + df2), y = df2 / (df1 f + df2), and their
+    // logarithms in long double from f and the degrees of freedom.
+    const long double scaled = static_cast<long double>(df1) * f, n2 = df2;
+    const double x = static_cast<double>(scaled / (scaled + n2));
+    const double y = static_cast<double>(n2 / (scaled + n2));
+    const long double log_x = f == 0.0 ? 0.0L : -std::log1p(n2 / scaled);
+    const long double log_y = -std::log1p(scaled / n2);
+    incomplete_beta_logs(0.5 * df1, 0.5 * df2, x, y, log_x, log_y, 0.0, lower, upper);
 }
 
 }  // namespace kiv::kernels

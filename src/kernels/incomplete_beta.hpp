@@ -16,6 +16,12 @@ enum class IncompleteBetaStatus { ok, not_converged };
 IncompleteBetaStatus incomplete_beta(double a, double b, double x, double y, double tol, double *w,
                                      double *w1);
 
+// The same with ln x and ln y supplied by the caller in long double (the
+// distributions form them from their own arguments, which is more accurate
+// than from x and y rounded to double).
+IncompleteBetaStatus incomplete_beta_logs(double a, double b, double x, double y, long double log_x,
+                                          long double log_y, double tol, double *w, double *w1);
+
 // x^a y^b / B(a, b) without overflow or underflow on the way (y = 1 - x).
 double beta_prefactor(double a, double b, double x, double y);
 
