@@ -42,10 +42,8 @@ struct Region {
 TEST(StudentT, BothTailsAgainstFiftyDigitsByDegreesOfFreedom) {
     const Region regions[] = {
         {"df 0.1 to 10", 0.1, 10, 8},
-        {"df 33.3 to 1e4", 33.3, 1e4, 192},
-        // Large a = df/2 with b = 1/2 near the mean: the continued fraction
-        // loses digits there (an asymptotic form is the cure, not yet here).
-        {"df 1e5 to 1e6", 1e5, 1e6, 3.2e4},
+        {"df 33.3 to 1e4", 33.3, 1e4, 64},
+        {"df 1e5 to 1e6", 1e5, 1e6, 160},
     };
     const double dfs[] = {0.1, 0.5, 1, 2.5, 7, 10, 33.3, 100, 1000, 1e4, 1e5, 1e6};
     for (const Region &region : regions) {
@@ -81,7 +79,7 @@ TEST(FDistribution, BothTailsAgainstFiftyDigits) {
                                   error_of(upper, cdf(complement(d, Big(f))))});
             }
         }
-    EXPECT_LE(worst, 384.0);
+    EXPECT_LE(worst, 80.0);
     std::printf("F worst %.1f eps\n", worst);
 }
 
@@ -103,7 +101,7 @@ TEST(BetaDistribution, BothTailsAgainstFiftyDigits) {
                      error_of(q, boost::math::ibetac(Big(a), Big(b), Big(x))),
                      error_of(pdf, boost::math::ibeta_derivative(Big(a), Big(b), Big(x)))});
             }
-    EXPECT_LE(worst, 96.0);
+    EXPECT_LE(worst, 100.0);
     std::printf("beta worst %.1f eps\n", worst);
 }
 
