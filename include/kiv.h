@@ -874,6 +874,15 @@ KIV_API double g01edf(const char *tail, double f, double df1, double df2, int *i
    direct) and the density; tol the relative accuracy asked (0 = best). */
 KIV_API void g01eec(double x, double a, double b, double tol, double *p, double *q, double *pdf,
                     KivError *fail);
+/* Deviates for a probability, each found in the probability's own tail:
+   Student's t for the tail given (as g01fac), chi-square, F and beta (lower
+   tail p), gamma with shape a and scale b; tol the relative accuracy asked
+   (0 = best). */
+KIV_API double g01fbc(Kiv_Tail tail, double p, double df, KivError *fail);
+KIV_API double g01fcc(double p, double df, KivError *fail);
+KIV_API double g01fdc(double p, double df1, double df2, KivError *fail);
+KIV_API double g01fec(double p, double a, double b, double tol, KivError *fail);
+KIV_API double g01ffc(double p, double a, double b, double tol, KivError *fail);
 
 /* ---- random numbers -------------------------------------------------------- */
 /* The next uniform number in (0, 1) of the thread's basic generator. */

@@ -304,47 +304,53 @@ KIV_API double g01fac_chdl(void *varg) {
 
 KIV_API double g01fbc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto tail = frame.arg<Kiv_Tail>();
+    const auto p = frame.arg<double>();
+    const auto df = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01fbc", fail);
-    return 0.0;
+    return g01fbc(tail, p, df, fail);
 }
 
 KIV_API double g01fcc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(2);
+    const auto p = frame.arg<double>();
+    const auto df = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01fcc", fail);
-    return 0.0;
+    return g01fcc(p, df, fail);
 }
 
 KIV_API double g01fdc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto p = frame.arg<double>();
+    const auto df1 = frame.arg<double>();
+    const auto df2 = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01fdc", fail);
-    return 0.0;
+    return g01fdc(p, df1, df2, fail);
 }
 
 KIV_API double g01fec_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(4);
+    const auto p = frame.arg<double>();
+    const auto a = frame.arg<double>();
+    const auto b = frame.arg<double>();
+    const auto tol = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01fec", fail);
-    return 0.0;
+    return g01fec(p, a, b, tol, fail);
 }
 
 KIV_API double g01ffc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(4);
+    const auto p = frame.arg<double>();
+    const auto a = frame.arg<double>();
+    const auto b = frame.arg<double>();
+    const auto tol = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01ffc", fail);
-    return 0.0;
+    return g01ffc(p, a, b, tol, fail);
 }
 
 KIV_API double g01fmc_chdl(void *varg) {

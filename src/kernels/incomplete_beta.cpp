@@ -70,6 +70,7 @@ namespace kiv::kernels {
 namespace {
 
 constexpr int kMaxTerms = 100000;
+constexpr long double kLogZero = -std::numeric_limits<long double>::infinity();  // ln 0
 constexpr long double kHalfLogTwoPiL = 0.918938533204672741780329736405617639L;
 
 // The Stirling correction mu(a) = ln Gamma(a) - (a - 1/2) ln a + a - ln sqrt(2 pi),
@@ -258,12 +259,18 @@ double beta_prefactor(double a, double b, double x, double y) {
 
 IncompleteBetaStatus incomplete_beta(double a, double b, double x, double y, double tol, double *w,
                                      double *w1) {
-    if (x <= 0.0 || y <= 0.0) return incomplete_beta_logs(a, b, x, y, 0.0L, 0.0L, tol, w, w1);
-    return incomplete_beta_logs(a, b, x, y, log_of(x, y), log_of(y, x), tol, w, w1);
+    constexpr long double kMinusInf = -std::numeric_limits<long double>::infinity();
+    const long double log_x = x > 0.0 ? log_of(x, y) : kMinusInf;
+    const long double log_y = y > 0.0 ? log_of(y, x) : kMinusInf;
+    return incomplete_beta_logs(a, b, x, y, log_x, log_y, tol, w, w1);
 }
 
 IncompleteBetaStatus incomplete_beta_logs(double a, double b, double x, double y, long double log_x,
                                           long double log_y, double tol, double *w, double *w1) {
+    // x or y may have underflowed to 0 in double while its logarithm is
+    // finite: the logarithms decide.
+    if (x <= 0.0 && std::isfinite(log_x)) x = std::numeric_limits<double>::denorm_min();
+    if (y <= 0.0 && std::isfinite(log_y)) y = std::numeric_limits<double>::denorm_min();
     if (x <= 0.0) {
         *w = 0.0;
         *w1 = 1.0;
@@ -312,12 +319,13 @@ void student_t_two_tails(double t, double df, double *beyond, double *within) {
     if (std::isinf(at)) {
         x = 0.0;
         y = 1.0;
-        log_x = log_y = 0.0L;
+        log_x = kLogZero;
+        log_y = 0.0L;
     } else {
         x = static_cast<double>(n / (n + s));
         y = static_cast<double>(s / (n + s));
         log_x = -std::log1p(s / n);
-        log_y = at == 0.0 ? 0.0L : -std::log1p(n / s);
+        log_y = at == 0.0 ? kLogZero : -std::log1p(n / s);
     }
     incomplete_beta_logs(0.5 * df, 0.5, x, y, log_x, log_y, 0.0, beyond, within);
 }
@@ -347,7 +355,7 @@ void f_tails(double f, double df1, double df2, double *lower, double *upper) {
     const long double scaled = static_cast<long double>(df1) * f, n2 = df2;
     const double x = static_cast<double>(scaled / (scaled + n2));
     const double y = static_cast<double>(n2 / (scaled + n2));
-    const long double log_x = f == 0.0 ? 0.0L : -std::log1p(n2 / scaled);
+    const long double log_x = f == 0.0 ? kLogZero : -std::log1p(n2 / scaled);
     const long double log_y = -std::log1p(scaled / n2);
     incomplete_beta_logs(0.5 * df1, 0.5 * df2, x, y, log_x, log_y, 0.0, lower, upper);
 }

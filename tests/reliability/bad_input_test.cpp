@@ -534,10 +534,49 @@ std::vector<Case> student_f_beta_cases() {
     };
 }
 
+// The deviates: the probability first (then the parameters), NaN included.
+std::vector<Case> deviate_cases() {
+    const Check zero = returns_zero;
+    auto fbc = [](int tail, double p, double df) {
+        return [=](Scratch &s, KivError *f) {
+            s.result = g01fbc(static_cast<Kiv_Tail>(tail), p, df, f);
+        };
+    };
+    auto fcc = [](double p, double df) {
+        return [=](Scratch &s, KivError *f) { s.result = g01fcc(p, df, f); };
+    };
+    auto fdc = [](double p, double d1, double d2) {
+        return [=](Scratch &s, KivError *f) { s.result = g01fdc(p, d1, d2, f); };
+    };
+    auto fec = [](double p, double a, double b, double tol) {
+        return [=](Scratch &s, KivError *f) { s.result = g01fec(p, a, b, tol, f); };
+    };
+    auto ffc = [](double p, double a, double b, double tol) {
+        return [=](Scratch &s, KivError *f) { s.result = g01ffc(p, a, b, tol, f); };
+    };
+    const int upper = Kiv_UpperTail;
+    return {
+        {"g01fbc", fbc(1333, 0.5, 2.0), NE_BAD_PARAM, bad_param("tail"), zero},
+        {"g01fbc", fbc(upper, 0.0, 2.0), NE_REAL_ARG_LE, le("p", "0.0", "0"), zero},
+        {"g01fbc", fbc(upper, kNaN, 2.0), NE_REAL_ARG_LE, le("p", "0.0", "nan"), zero},
+        {"g01fbc", fbc(upper, 1.0, 2.0), NE_REAL_ARG_GE, ge("p", "1.0", "1"), zero},
+        {"g01fbc", fbc(upper, 0.5, -1.0), NE_REAL_ARG_LE, le("df", "0.0", "-1"), zero},
+        {"g01fcc", fcc(1.5, -1.0), NE_REAL_ARG_GE, ge("p", "1.0", "1.5"), zero},
+        {"g01fcc", fcc(0.5, kNaN), NE_REAL_ARG_LE, le("df", "0.0", "nan"), zero},
+        {"g01fdc", fdc(4.9406564584124654e-324, 0.0, 1.0), NE_REAL_ARG_LE, le("df1", "0.0", "0"),
+         zero},
+        {"g01fdc", fdc(0.5, 1.0, kInf), NE_REAL_ARG_GE, ge("df2", "inf", "inf"), zero},
+        {"g01fec", fec(0.5, 1.0, 0.0, 0.0), NE_REAL_ARG_LE, le("b", "0.0", "0"), zero},
+        {"g01fec", fec(0.5, 1.0, 1.0, -1.0), NE_REAL_ARG_LT, lt("tol", "0.0", "-1"), zero},
+        {"g01ffc", ffc(-0.5, 1.0, 1.0, 0.0), NE_REAL_ARG_LE, le("p", "0.0", "-0.5"), zero},
+        {"g01ffc", ffc(0.5, 1.0, 0.0, 0.0), NE_REAL_ARG_LE, le("b", "0.0", "0"), zero},
+    };
+}
+
 std::vector<Case> all_cases() {
     std::vector<Case> cases;
     for (auto part : {normal_cases, gamma_cases, moments_cases, correlation_cases,
-                      time_series_cases, null_pointer_cases, student_f_beta_cases})
+                      time_series_cases, null_pointer_cases, student_f_beta_cases, deviate_cases})
         for (Case &c : part()) cases.push_back(std::move(c));
     return cases;
 }

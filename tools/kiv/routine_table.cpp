@@ -278,6 +278,97 @@ const std::vector<RoutineSpec> &routines() {
          "void g01fac_v(Kiv_Tail tail, int n, const double *p, double *out, KivError *fail)",
          "n < 0: NE_INT; a null array: NE_BAD_PARAM; bad tail: NE_BAD_PARAM; a bad p: "
          "NE_REAL_ARG_LE or NE_REAL_ARG_GE naming its index"},
+        {"g01fbc",
+         "Student's t deviate for a tail probability",
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
+           "Kiv_LowerTail,Kiv_UpperTail,Kiv_TwoTailSignif,Kiv_TwoTailConfid"},
+          {"p", ArgKind::Double},
+          {"df", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const auto tail = static_cast<Kiv_Tail>(given.integer(0));
+             const double p = given.real(1);
+             const double df = given.real(2);
+             printed.scalar("result", g01fbc(tail, p, df, fail));
+         },
+         "Kiv_UpperTail 0.025 10",
+         "tail: which probability p is: lower P(T <= t), upper P(T >= t), two-tail significance "
+         "P(|T| >= t) or confidence P(|T| <= t); p: the probability, 0 < p < 1; df: degrees of "
+         "freedom, df > 0; result: the deviate t",
+         "double g01fbc(Kiv_Tail tail, double p, double df, KivError *fail)",
+         "bad tail: NE_BAD_PARAM; p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; df <= 0: "
+         "NE_REAL_ARG_LE; no convergence: NE_ALG_NOT_CONV"},
+        {"g01fcc",
+         "chi-square deviate (lower tail)",
+         {{"p", ArgKind::Double}, {"df", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double p = given.real(0);
+             const double df = given.real(1);
+             printed.scalar("result", g01fcc(p, df, fail));
+         },
+         "0.95 3",
+         "p: lower-tail probability, 0 < p < 1; df: degrees of freedom, df > 0; result: x with P(X "
+         "<= x) = p",
+         "double g01fcc(double p, double df, KivError *fail)",
+         "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; df <= 0: NE_REAL_ARG_LE; no convergence: "
+         "NE_ALG_NOT_CONV"},
+        {"g01fdc",
+         "F deviate (lower tail)",
+         {{"p", ArgKind::Double}, {"df1", ArgKind::Double}, {"df2", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double p = given.real(0);
+             const double df1 = given.real(1);
+             const double df2 = given.real(2);
+             printed.scalar("result", g01fdc(p, df1, df2, fail));
+         },
+         "0.95 4 20",
+         "p: lower-tail probability, 0 < p < 1; df1: numerator degrees of freedom; df2: "
+         "denominator degrees of freedom; result: f with P(F <= f) = p",
+         "double g01fdc(double p, double df1, double df2, KivError *fail)",
+         "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; df1, df2 <= 0: NE_REAL_ARG_LE; df1, df2 "
+         "infinite: NE_REAL_ARG_GE; no convergence: NE_ALG_NOT_CONV"},
+        {"g01fec",
+         "beta deviate (lower tail)",
+         {{"p", ArgKind::Double},
+          {"a", ArgKind::Double},
+          {"b", ArgKind::Double},
+          {"tol", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double p = given.real(0);
+             const double a = given.real(1);
+             const double b = given.real(2);
+             const double tol = given.real(3);
+             printed.scalar("result", g01fec(p, a, b, tol, fail));
+         },
+         "0.5 2 5 0",
+         "p: lower-tail probability, 0 < p < 1; a: first shape, a > 0; b: second shape, b > 0; "
+         "tol: relative accuracy asked, 0 for the best; result: x with I_x(a, b) = p",
+         "double g01fec(double p, double a, double b, double tol, KivError *fail)",
+         "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; a, b <= 0: NE_REAL_ARG_LE; a, b "
+         "infinite: NE_REAL_ARG_GE; tol < 0: NE_REAL_ARG_LT; no convergence: NE_ALG_NOT_CONV"},
+        {"g01ffc",
+         "gamma deviate (lower tail; shape a, scale b)",
+         {{"p", ArgKind::Double},
+          {"a", ArgKind::Double},
+          {"b", ArgKind::Double},
+          {"tol", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double p = given.real(0);
+             const double a = given.real(1);
+             const double b = given.real(2);
+             const double tol = given.real(3);
+             printed.scalar("result", g01ffc(p, a, b, tol, fail));
+         },
+         "0.5 2 3 0",
+         "p: lower-tail probability, 0 < p < 1; a: shape, a > 0; b: scale, b > 0; tol: relative "
+         "accuracy asked, 0 for the best; result: g with P(G <= g) = p",
+         "double g01ffc(double p, double a, double b, double tol, KivError *fail)",
+         "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; a <= 0, b <= 0: NE_REAL_ARG_LE; tol < 0: "
+         "NE_REAL_ARG_LT; no convergence: NE_ALG_NOT_CONV"},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
          {{"n", ArgKind::Int, nullptr, 5},
