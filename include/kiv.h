@@ -883,6 +883,24 @@ KIV_API double g01fcc(double p, double df, KivError *fail);
 KIV_API double g01fdc(double p, double df1, double df2, KivError *fail);
 KIV_API double g01fec(double p, double a, double b, double tol, KivError *fail);
 KIV_API double g01ffc(double p, double a, double b, double tol, KivError *fail);
+/* Studentized range: P(Q <= q) for ir >= 2 groups and v >= 1 degrees of
+   freedom (g01emf: the error-flag form, ifail 1 q < 0, 2 v < 1 or ir < 2),
+   and the deviate for a lower-tail probability. */
+KIV_API double g01emc(double q, double v, int ir, KivError *fail);
+KIV_API double g01emf(double q, double v, int ir, int *ifail);
+KIV_API double g01fmc(double p, double v, int ir, KivError *fail);
+/* Von Mises distribution function on [-pi, pi], concentration vk > 0. */
+KIV_API double g01erc(double t, double vk, KivError *fail);
+/* Bivariate standard normal P(X <= x, Y <= y), correlation -1 <= rho <= 1. */
+KIV_API double g01hac(double x, double y, double rho, KivError *fail);
+/* Multivariate normal probability, n >= 2, mean xmu, covariance sig (n by n,
+   row stride tdsig, positive semi-definite): Kiv_LowerTail P(X <= b),
+   Kiv_UpperTail P(X >= a), Kiv_Central P(a <= X <= b), to the absolute
+   accuracy tol within maxpts integrand evaluations (else the warning
+   NE_ACC with the best estimate); reproducible. */
+KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[],
+                      const double xmu[], const double sig[], int tdsig, double tol, int maxpts,
+                      KivError *fail);
 
 /* ---- random numbers -------------------------------------------------------- */
 /* The next uniform number in (0, 1) of the thread's basic generator. */

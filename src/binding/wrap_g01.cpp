@@ -230,18 +230,21 @@ KIV_API double g01efc_chdl(void *varg) {
 
 KIV_API double g01emc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto q = frame.arg<double>();
+    const auto v = frame.arg<double>();
+    const auto ir = frame.arg<int>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01emc", fail);
-    return 0.0;
+    return g01emc(q, v, ir, fail);
 }
 
 KIV_API double g01emf_c_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(4);
-    kiv::binding::print_not_available("g01emf");
-    return 0.0;
+    const auto q = frame.arg<double>();
+    const auto v = frame.arg<double>();
+    const auto ir = frame.arg<int>();
+    const auto ifail = frame.arg<int *>();
+    return g01emf(q, v, ir, ifail);
 }
 
 KIV_API void g01epc_chdl(void *varg) {
@@ -254,11 +257,11 @@ KIV_API void g01epc_chdl(void *varg) {
 
 KIV_API double g01erc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(2);
+    const auto t = frame.arg<double>();
+    const auto vk = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01erc", fail);
-    return 0.0;
+    return g01erc(t, vk, fail);
 }
 
 KIV_API double g01etc_chdl(void *varg) {
@@ -355,11 +358,12 @@ KIV_API double g01ffc_chdl(void *varg) {
 
 KIV_API double g01fmc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto p = frame.arg<double>();
+    const auto v = frame.arg<double>();
+    const auto ir = frame.arg<int>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01fmc", fail);
-    return 0.0;
+    return g01fmc(p, v, ir, fail);
 }
 
 KIV_API double g01ftc_chdl(void *varg) {
@@ -409,20 +413,28 @@ KIV_API double g01gec_chdl(void *varg) {
 
 KIV_API double g01hac_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto x = frame.arg<double>();
+    const auto y = frame.arg<double>();
+    const auto rho = frame.arg<double>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01hac", fail);
-    return 0.0;
+    return g01hac(x, y, rho, fail);
 }
 
 KIV_API double g01hbc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(9);
+    const auto tail = frame.arg<Kiv_Tail>();
+    const auto n = frame.arg<int>();
+    const auto a = frame.arg<const double *>();
+    const auto b = frame.arg<const double *>();
+    const auto xmu = frame.arg<const double *>();
+    const auto sig = frame.arg<const double *>();
+    const auto tdsig = frame.arg<int>();
+    const auto tol = frame.arg<double>();
+    const auto maxpts = frame.arg<int>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01hbc", fail);
-    return 0.0;
+    return g01hbc(tail, n, a, b, xmu, sig, tdsig, tol, maxpts, fail);
 }
 
 KIV_API void g01jcc_chdl(void *varg) {

@@ -573,10 +573,70 @@ std::vector<Case> deviate_cases() {
     };
 }
 
+// Studentized range, von Mises, bivariate and multivariate normal.
+std::vector<Case> range_and_normal_cases() {
+    const Check zero = returns_zero;
+    auto emc = [](double q, double v, int ir) {
+        return [=](Scratch &s, KivError *f) { s.result = g01emc(q, v, ir, f); };
+    };
+    auto fmc = [](double p, double v, int ir) {
+        return [=](Scratch &s, KivError *f) { s.result = g01fmc(p, v, ir, f); };
+    };
+    auto erc = [](double t, double vk) {
+        return [=](Scratch &s, KivError *f) { s.result = g01erc(t, vk, f); };
+    };
+    auto hac = [](double x, double y, double rho) {
+        return [=](Scratch &s, KivError *f) { s.result = g01hac(x, y, rho, f); };
+    };
+    auto hbc = [](int tail, int n, bool a_null, int tdsig, double tol, int maxpts, double a0) {
+        return [=](Scratch &s, KivError *f) {
+            const double a[3] = {a0, 0, 0}, b[3] = {1, 1, 1}, mu[3] = {0, 0, 0};
+            const double sig[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+            s.result = g01hbc(static_cast<Kiv_Tail>(tail), n, a_null ? nullptr : a, b, mu, sig,
+                              tdsig, tol, maxpts, f);
+        };
+    };
+    const int central = Kiv_Central;
+    return {
+        {"g01emc", emc(-1.0, 0.5, 1), NE_REAL_ARG_LT, lt("q", "0.0", "-1"), zero},
+        {"g01emc", emc(1.0, 0.5, 1), NE_REAL_ARG_LT, lt("v", "1.0", "0.5"), zero},
+        {"g01emc", emc(1.0, kNaN, 3), NE_REAL_ARG_LT, lt("v", "1.0", "nan"), zero},
+        {"g01emc", emc(1.0, 5.0, 1), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, ir must not be less than 2: ir = 1.", zero},
+        {"g01fmc", fmc(1.0, 5.0, 3), NE_REAL_ARG_GE, ge("p", "1.0", "1"), zero},
+        {"g01fmc", fmc(0.5, 5.0, 0), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, ir must not be less than 2: ir = 0.", zero},
+        {"g01erc", erc(kNaN, 1.0), NE_REAL,
+         "NE_REAL:\n  On entry, t = nan.\n  Constraint: t must be finite.", zero},
+        {"g01erc", erc(1.0, 0.0), NE_REAL_ARG_LE, le("vk", "0.0", "0"), zero},
+        {"g01hac", hac(0.0, 0.0, 1.5), NE_REAL_ARG_GT,
+         bound("NE_REAL_ARG_GT", "greater than", "rho", "1.0", "1.5"), zero},
+        {"g01hac", hac(0.0, 0.0, kNaN), NE_REAL_ARG_LT, lt("rho", "-1.0", "nan"), zero},
+        {"g01hbc", hbc(Kiv_TwoTailSignif, 3, false, 3, 1e-4, 1000, 0), NE_BAD_PARAM,
+         bad_param("tail"), zero},
+        {"g01hbc", hbc(central, 1, false, 3, 1e-4, 1000, 0), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, n must not be less than 2: n = 1.", zero},
+        {"g01hbc", hbc(central, 3, true, 3, 1e-4, 1000, 0), NE_BAD_PARAM, bad_param("a"), zero},
+        {"g01hbc", hbc(central, 3, false, 2, 1e-4, 1000, 0), NE_2_INT_ARG_LT,
+         "NE_2_INT_ARG_LT:\n  On entry, tdsig =  2 while n =  3.\n  These parameters must "
+         "satisfy tdsig >= n.",
+         zero},
+        {"g01hbc", hbc(central, 3, false, 3, 1e-4, 1000, 2.0), NE_2_REAL_ARG_GT,
+         "NE_2_REAL_ARG_GT:\n  On entry, a[0] = 2 while b[0] = 1.\n  These parameters must "
+         "satisfy a[0] <= b[0].",
+         zero},
+        {"g01hbc", hbc(central, 3, false, 3, 0.0, 1000, 0), NE_REAL_ARG_LE, le("tol", "0.0", "0"),
+         zero},
+        {"g01hbc", hbc(central, 3, false, 3, 1e-4, 0, 0), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, maxpts must not be less than 1: maxpts = 0.", zero},
+    };
+}
+
 std::vector<Case> all_cases() {
     std::vector<Case> cases;
-    for (auto part : {normal_cases, gamma_cases, moments_cases, correlation_cases,
-                      time_series_cases, null_pointer_cases, student_f_beta_cases, deviate_cases})
+    for (auto part :
+         {normal_cases, gamma_cases, moments_cases, correlation_cases, time_series_cases,
+          null_pointer_cases, student_f_beta_cases, deviate_cases, range_and_normal_cases})
         for (Case &c : part()) cases.push_back(std::move(c));
     return cases;
 }

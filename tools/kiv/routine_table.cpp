@@ -242,6 +242,56 @@ const std::vector<RoutineSpec> &routines() {
          "double g01efc(Kiv_Tail tail, double g, double a, double b, KivError *fail)",
          "bad tail: NE_BAD_PARAM; g < 0: NE_REAL_ARG_LT; a <= 0, b <= 0: NE_REAL_ARG_LE; no "
          "convergence: NE_ALG_NOT_CONV"},
+        {"g01emc",
+         "studentized range lower tail probability",
+         {{"q", ArgKind::Double}, {"v", ArgKind::Double}, {"ir", ArgKind::Int}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double q = given.real(0);
+             const double v = given.real(1);
+             const int ir = given.integer(2);
+             printed.scalar("result", g01emc(q, v, ir, fail));
+         },
+         "3.5 20 4",
+         "q: the value, q >= 0; v: degrees of freedom, v >= 1; ir: number of groups, ir >= 2; "
+         "result: P(Q <= q)",
+         "double g01emc(double q, double v, int ir, KivError *fail)",
+         "q < 0: NE_REAL_ARG_LT; v < 1: NE_REAL_ARG_LT; ir < 2: NE_INT_ARG_LT"},
+        {"g01emf",
+         "studentized range probability with the error-flag interface",
+         {{"q", ArgKind::Double},
+          {"v", ArgKind::Double},
+          {"ir", ArgKind::Int},
+          {"ifail", ArgKind::Int}},
+         false,
+         [](In given, Outputs &printed, KivError *) {
+             const double q = given.real(0);
+             const double v = given.real(1);
+             const int ir = given.integer(2);
+             int ifail = given.integer(3);
+             printed.scalar("result", g01emf(q, v, ir, &ifail));
+             printed.integer("ifail", ifail);
+         },
+         "3.5 20 4 1",
+         "q: the value, q >= 0; v: degrees of freedom, v >= 1; ir: number of groups, ir >= 2; "
+         "ifail: 0 hard, 1 soft silent, -1 soft noisy on entry, the failure number on exit; "
+         "result: P(Q <= q)",
+         "double g01emf(double q, double v, int ir, int *ifail)",
+         "q < 0: ifail 1; v < 1 or ir < 2: ifail 2"},
+        {"g01erc",
+         "von Mises distribution function",
+         {{"t", ArgKind::Double}, {"vk", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double t = given.real(0);
+             const double vk = given.real(1);
+             printed.scalar("result", g01erc(t, vk, fail));
+         },
+         "1.0 2.5",
+         "t: the angle (reduced modulo 2 pi into [-pi, pi]); vk: concentration, vk > 0; result: "
+         "P(Theta <= t)",
+         "double g01erc(double t, double vk, KivError *fail)",
+         "t not finite: NE_REAL; vk <= 0: NE_REAL_ARG_LE; vk infinite: NE_REAL_ARG_GE"},
         {"g01fac",
          "standard normal deviate for a tail probability",
          {{"tail", ArgKind::Enum, "Kiv_Tail", -1,
@@ -369,6 +419,73 @@ const std::vector<RoutineSpec> &routines() {
          "double g01ffc(double p, double a, double b, double tol, KivError *fail)",
          "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; a <= 0, b <= 0: NE_REAL_ARG_LE; tol < 0: "
          "NE_REAL_ARG_LT; no convergence: NE_ALG_NOT_CONV"},
+        {"g01fmc",
+         "studentized range deviate",
+         {{"p", ArgKind::Double}, {"v", ArgKind::Double}, {"ir", ArgKind::Int}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double p = given.real(0);
+             const double v = given.real(1);
+             const int ir = given.integer(2);
+             printed.scalar("result", g01fmc(p, v, ir, fail));
+         },
+         "0.95 20 4",
+         "p: lower-tail probability, 0 < p < 1; v: degrees of freedom, v >= 1; ir: number of "
+         "groups, ir >= 2; result: q with P(Q <= q) = p",
+         "double g01fmc(double p, double v, int ir, KivError *fail)",
+         "p <= 0: NE_REAL_ARG_LE; p >= 1: NE_REAL_ARG_GE; v < 1: NE_REAL_ARG_LT; ir < 2: "
+         "NE_INT_ARG_LT; no convergence: NE_ALG_NOT_CONV"},
+        {"g01hac",
+         "bivariate standard normal probability P(X <= x, Y <= y)",
+         {{"x", ArgKind::Double}, {"y", ArgKind::Double}, {"rho", ArgKind::Double}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const double x = given.real(0);
+             const double y = given.real(1);
+             const double rho = given.real(2);
+             printed.scalar("result", g01hac(x, y, rho, fail));
+         },
+         "1 0.5 0.3",
+         "x: first limit; y: second limit; rho: correlation, -1 <= rho <= 1; result: P(X <= x, Y "
+         "<= y)",
+         "double g01hac(double x, double y, double rho, KivError *fail)",
+         "x or y NaN: NE_REAL; rho < -1: NE_REAL_ARG_LT; rho > 1: NE_REAL_ARG_GT"},
+        {"g01hbc",
+         "multivariate normal probability",
+         {{"tail", ArgKind::Enum, "Kiv_Tail", -1, "Kiv_LowerTail,Kiv_UpperTail,Kiv_Central"},
+          {"n", ArgKind::Int, nullptr, 2},
+          {"a", ArgKind::Doubles},
+          {"b", ArgKind::Doubles},
+          {"xmu", ArgKind::Doubles},
+          {"sig", ArgKind::Doubles},
+          {"tdsig", ArgKind::Int},
+          {"tol", ArgKind::Double},
+          {"maxpts", ArgKind::Int}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const auto tail = static_cast<Kiv_Tail>(given.integer(0));
+             const int n = given.integer(1);
+             const int tdsig = given.integer(6);
+             const double tol = given.real(7);
+             const int maxpts = given.integer(8);
+             const double *a = given.doubles(2, "a", n);
+             const double *b = given.doubles(3, "b", n);
+             const double *xmu = given.doubles(4, "xmu", n);
+             const double *sig = given.doubles(5, "sig", span_of(n, n, tdsig));
+             printed.scalar("result", g01hbc(tail, n, a, b, xmu, sig, tdsig, tol, maxpts, fail));
+         },
+         "Kiv_Central 3 -1,-1,-1 1,1,1 0,0,0 1,0.5,0.5,0.5,1,0.5,0.5,0.5,1 3 1e-4 100000",
+         "tail: Kiv_LowerTail P(X <= b), Kiv_UpperTail P(X >= a) or Kiv_Central P(a <= X <= b); n: "
+         "dimension, n >= 2; a: lower limits (not read for the lower tail); b: upper limits (not "
+         "read for the upper tail); xmu: the mean; sig: the covariance matrix, row stride tdsig; "
+         "tdsig: row stride of sig, tdsig >= n; tol: absolute accuracy asked; maxpts: the most "
+         "integrand evaluations; result: the probability",
+         "double g01hbc(Kiv_Tail tail, int n, const double *a, const double *b, const double *xmu, "
+         "const double *sig, int tdsig, double tol, int maxpts, KivError *fail)",
+         "bad tail: NE_BAD_PARAM; n < 2: NE_INT_ARG_LT; a null array: NE_BAD_PARAM; tdsig < n: "
+         "NE_2_INT_ARG_LT; a[i] > b[i] (central): NE_2_REAL_ARG_GT; tol <= 0: NE_REAL_ARG_LE; "
+         "maxpts < 1: NE_INT_ARG_LT; n > 21: NE_INT_ARG_GT; sig not positive semi-definite: "
+         "NE_NOT_POS_SEM_DEF; tol not reached: NE_ACC"},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
          {{"n", ArgKind::Int, nullptr, 5},
