@@ -92,7 +92,7 @@ Solution solve(const std::function<TailValue(double)> &tail, double target, doub
             if (lo == 0.0)
                 next = std::min(x, hi) / 16.0;
             else if (hi == kInf)
-                next = 16.0 * std::max(x, lo);
+                next = std::min(16.0 * std::max(x, lo), std::numeric_limits<double>::max());
             else
                 next = hi > 4.0 * lo ? std::sqrt(lo) * std::sqrt(hi) : 0.5 * (lo + hi);
         }

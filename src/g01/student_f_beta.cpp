@@ -148,7 +148,7 @@ KIV_API void g01eec(double x, double a, double b, double tol, double *p, double 
     *q = upper;
     *pdf = density;
     if (status == kiv::kernels::IncompleteBetaStatus::not_converged) {
-        check.report_code_only(NE_ALG_NOT_CONV);
+        check.report(NE_ALG_NOT_CONV, 100000L);
         return;
     }
     check.success();

@@ -57,7 +57,9 @@ double log_scale_density(double s, double v) {
 
 double studentized_range_cdf_tol(double q, double v, int groups, double tolerance) {
     if (q <= 0.0) return 0.0;
-    if (std::isinf(v)) return normal_range(q, groups, tolerance);
+    // Beyond 1e12 degrees of freedom the scale is 1 to within 1e-12: the
+    // range of normals itself.
+    if (v > 1e12) return normal_range(q, groups, tolerance);
     const double sigma = 1.0 / std::sqrt(2.0 * v);
     const double lo = std::max(0.0, 1.0 - 14.0 * sigma), hi = 1.0 + 14.0 * sigma + 8.0 / v;
     auto integrand = [q, v, groups, tolerance](double s) {
@@ -73,8 +75,8 @@ double studentized_range_cdf_tol(double q, double v, int groups, double toleranc
 namespace kiv::g01 {
 
 double studentized_range_cdf(double q, double v, int groups) {
-    const double estimate = studentized_range_cdf_tol(q, v, groups, 1e-9);
-    return studentized_range_cdf_tol(q, v, groups, std::max(1e-13 * estimate, 1e-300));
+    const double estimate = studentized_range_cdf_tol(q, v, groups, 1e-6);
+    return studentized_range_cdf_tol(q, v, groups, std::max(1e-11 * estimate, 1e-300));
 }
 
 }  // namespace kiv::g01

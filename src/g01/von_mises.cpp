@@ -32,6 +32,11 @@ double von_mises_cdf(double t, double kappa) {
     const long double two_pi = 2.0L * kiv::kernels::kPiLong;
     long double theta = std::remainder(static_cast<long double>(t), two_pi);  // in [-pi, pi]
     if (t == kiv::kernels::kPi || t == -kiv::kernels::kPi) theta = t;
+    // Beyond kappa = 1e8 the series would need 1e5 terms: the normal limit
+    // of 2 sqrt(kappa) sin(theta/2), whose error is O(1/kappa) < 1e-8.
+    if (kappa > 1e8)
+        return s15abc(static_cast<double>(2.0L * std::sqrt(static_cast<long double>(kappa)) *
+                                          std::sin(theta / 2.0L)));
     const int terms = static_cast<int>(10.0 * std::sqrt(kappa) + 40.0);
     const int start = terms + static_cast<int>(20.0 * std::sqrt(kappa)) + 60;
     std::vector<long double> ratio(static_cast<std::size_t>(start) + 2, 0.0L);

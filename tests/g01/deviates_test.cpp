@@ -23,8 +23,7 @@ template <class Distribution>
 double deviate_error(const Distribution &d, double x, double p) {
     try {
         const Big at(x);
-        const Big gap =
-            p <= 0.5 ? cdf(d, at) - Big(p) : cdf(complement(d, at)) - (Big(1) - Big(p));
+        const Big gap = p <= 0.5 ? cdf(d, at) - Big(p) : cdf(complement(d, at)) - (Big(1) - Big(p));
         return static_cast<double>(abs(gap / (pdf(d, at) * at))) / kEps;
     } catch (const std::exception &error) {
         ADD_FAILURE() << "reference at x = " << x << ", p = " << p << ": " << error.what();
@@ -84,6 +83,20 @@ TEST(Deviates, WithinTheirBoundsAgainstFiftyDigitReferences) {
     for (const Row &row : rows) {
         EXPECT_LE(row.worst, row.bound) << row.what;
         std::printf("deviates %-12s worst %.1f eps\n", row.what, row.worst);
+    }
+}
+
+// The extreme probabilities: the smallest subnormal and the largest double
+// below 1 give finite deviates, at once (no long search).
+TEST(Deviates, ExtremeProbabilitiesGiveFiniteDeviates) {
+    const double smallest = 4.9406564584124654e-324, largest = 1.0 - 0x1p-53;
+    for (double p : {smallest, largest}) {
+        KivError fail{};
+        EXPECT_TRUE(std::isfinite(g01fbc(Kiv_LowerTail, p, 3.0, &fail))) << p;
+        EXPECT_TRUE(std::isfinite(g01fcc(p, 3.0, &fail))) << p;
+        EXPECT_TRUE(std::isfinite(g01fec(p, 2.0, 3.0, 0.0, &fail))) << p;
+        EXPECT_TRUE(std::isfinite(g01ffc(p, 2.0, 3.0, 0.0, &fail))) << p;
+        EXPECT_GE(g01fdc(p, 2.0, 3.0, &fail), 0.0) << p;
     }
 }
 

@@ -627,6 +627,13 @@ std::vector<Case> range_and_normal_cases() {
          zero},
         {"g01hbc", hbc(central, 3, false, 3, 0.0, 1000, 0), NE_REAL_ARG_LE, le("tol", "0.0", "0"),
          zero},
+        {"g01hbc",
+         [](Scratch &s, KivError *f) {
+             const double a[3] = {0, 0, 0}, b[3] = {1, 1, 1}, mu[3] = {0, 0, 0};
+             const double sig[9] = {1, 2, 0, 2, 1, 0, 0, 0, 1};  // not positive semi-definite
+             s.result = g01hbc(Kiv_Central, 3, a, b, mu, sig, 3, 1e-4, 1000, f);
+         },
+         NE_NOT_POS_SEM_DEF, "NE_NOT_POS_SEM_DEF:\n  Error: Not positive sem definite.", zero},
         {"g01hbc", hbc(central, 3, false, 3, 1e-4, 0, 0), NE_INT_ARG_LT,
          "NE_INT_ARG_LT:\n  On entry, maxpts must not be less than 1: maxpts = 0.", zero},
     };
