@@ -52,12 +52,9 @@
 #include "runtime/report.hpp"
 #include "runtime/workspace.hpp"
 
-// The refill has a baseline and an AVX2 version on x86-64, chosen on first
-// use (an explicit dispatch rather than an ifunc, whose resolver would run
-// before sanitizer runtimes are initialised).
-#if defined(__x86_64__) && defined(__GNUC__)
-#define KIV_G05_AVX2_REFILL 1
-#endif
+// The refill has a baseline and an AVX2 version (kernels/simd.hpp), chosen
+// on first use (an explicit dispatch rather than an ifunc, whose resolver
+// would run before sanitizer runtimes are initialised).
 
 namespace kiv::g05 {
 
@@ -111,8 +108,7 @@ void set_default_state(ThreadRecords &records) {
 // only the low 15 bits of each are kept, which are exact), then the uniform
 // of each column. Rows are contiguous in the column index, so the loop runs
 // in 32-bit vector lanes; on x86-64 an AVX2 version is chosen at load time.
-__attribute__((always_inline)) inline void advance_columns_body(BasicGeneratorState &state,
-                                                                double ceiling) {
+KIV_FORCE_INLINE void advance_columns_body(BasicGeneratorState &state, double ceiling) {
     constexpr std::uint32_t a0 = 85, a1 = 3703, a2 = 6070, a3 = 6822;  // A^63, 15-bit pieces
     static_assert(a0 + (a1 << 15) + (std::uint64_t{a2} << 30) + (std::uint64_t{a3} << 45) ==
                   jump_multiplier);
@@ -138,21 +134,15 @@ __attribute__((always_inline)) inline void advance_columns_body(BasicGeneratorSt
     }
 }
 
-#if defined(KIV_G05_AVX2_REFILL)
-__attribute__((target("avx2"))) void advance_columns_avx2(BasicGeneratorState &state,
-                                                          double ceiling) {
+KIV_TARGET_AVX2 void advance_columns_avx2(BasicGeneratorState &state, double ceiling) {
     advance_columns_body(state, ceiling);
 }
-#endif
 
 void advance_columns(BasicGeneratorState &state, double ceiling) {
-#if defined(KIV_G05_AVX2_REFILL)
-    static const bool has_avx2 = __builtin_cpu_supports("avx2");
-    if (has_avx2) {
+    if (kiv::kernels::cpu_has_avx2()) {
         advance_columns_avx2(state, ceiling);
         return;
     }
-#endif
     advance_columns_body(state, ceiling);
 }
 

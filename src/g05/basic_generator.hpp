@@ -9,6 +9,8 @@
 
 #include <cstdint>
 
+#include "kernels/simd.hpp"
+
 namespace kiv::g05 {
 
 inline constexpr int buffer_length = 63;
@@ -48,11 +50,7 @@ struct ThreadRecords {
 
 // Initial-exec TLS: one load from the thread pointer, no call, also from
 // the shared library (a pointer costs 8 bytes of the static TLS surplus).
-#if defined(__ELF__)
-#define KIV_G05_TLS_MODEL __attribute__((tls_model("initial-exec")))
-#else
-#define KIV_G05_TLS_MODEL
-#endif
+#define KIV_G05_TLS_MODEL KIV_TLS_INITIAL_EXEC
 extern constinit thread_local ThreadRecords *thread_records KIV_G05_TLS_MODEL;
 
 // The slow path of a thread's first use: licence check, allocation, default

@@ -63,11 +63,8 @@
 
 #include "g05/basic_generator.hpp"
 #include "g05/normal_table.hpp"
+#include "kernels/simd.hpp"
 #include "kiv.h"
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace {
 
@@ -86,7 +83,6 @@ constexpr int normal_intervals = 40;
 // saves a loop of unpredictable length; any other carried value takes the
 // loop itself.
 constexpr std::uint64_t one_bits = 0x3ff0000000000000u;
-[[maybe_unused]] constexpr std::uint64_t half_bits = 0x3fe0000000000000u;
 constexpr std::uint64_t last_exponent = 1022 - (normal_intervals - 1);  // i = 40 at and below
 
 inline bool carry_in_unit_interval(std::uint64_t bits) {
@@ -138,22 +134,9 @@ inline const IntervalConstants &constants_of_carry(std::uint64_t bits) {
     return interval_constants[static_cast<std::size_t>(clamped - last_exponent)];
 }
 
-// The carry and the sign from the accepted fresh uniform r >= 0: carry 2r
-// and sign + for r <= 1/2, carry 2r - 1 and sign - otherwise. The sign is
-// a coin toss, so this is done without branches, with the mask of r > 1/2:
-// 2r - 0 = 2r, and a + (-d) = a - d exactly.
+// The carry and the sign from the accepted fresh uniform (kernels/simd.hpp).
 inline double accept(double &carry, double fresh, double a, double deviation) {
-#if defined(__SSE2__)
-    const __m128d r = _mm_set_sd(fresh);
-    const __m128d upper_half = _mm_cmplt_sd(_mm_set_sd(0.5), r);
-    carry = _mm_cvtsd_f64(_mm_sub_sd(_mm_add_sd(r, r), _mm_and_pd(upper_half, _mm_set_sd(1.0))));
-    const __m128d sign = _mm_and_pd(upper_half, _mm_set_sd(-0.0));
-    return a + _mm_cvtsd_f64(_mm_xor_pd(_mm_set_sd(deviation), sign));
-#else
-    const std::uint64_t upper_half = std::bit_cast<std::uint64_t>(fresh) > half_bits;
-    carry = (fresh + fresh) - std::bit_cast<double>((0 - upper_half) & one_bits);
-    return a + std::bit_cast<double>(std::bit_cast<std::uint64_t>(deviation) ^ (upper_half << 63));
-#endif
+    return kiv::kernels::signed_carry(carry, fresh, a, deviation);
 }
 
 // One normal deviate of mean a and standard deviation b, for any state:

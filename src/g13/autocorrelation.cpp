@@ -58,6 +58,7 @@
 #include <cstring>
 
 #include "g13/arguments.hpp"
+#include "kernels/lagged_products.hpp"
 #include "kiv.h"
 #include "runtime/checks.hpp"
 #include "runtime/report.hpp"
@@ -65,134 +66,12 @@
 
 namespace kiv::g13 {
 
-namespace {
-
-// Indices per chunk: two 16 KiB windows of the deviations (around i and
-// around i + k) stay in the first-level cache while all lags visit them.
-constexpr std::size_t kChunk = 2048;
-
-#if defined(__GNUC__)
-#define KIV_INLINE [[gnu::always_inline]] inline
-// Lags side by side in one vector register (GCC and Clang vector
-// extension): element j of a vector only ever meets element j of another,
-// so each lag keeps its own in-order sum.
-using Pair = double __attribute__((vector_size(16)));  // SSE2, NEON
-#if defined(__x86_64__) && !defined(_WIN32)
-// Four lags per AVX register, chosen at run time on processors with AVX
-// (no fused multiply-add: the rounding stays that of the plain loop).
-#define KIV_AVX_KERNEL 1
-using Quad = double __attribute__((vector_size(32)));
-#endif
-#else
-#define KIV_INLINE inline
-struct Pair {};
-#endif
-
-// The main loop of a block: indices [begin, common_end) of Lags lags, all of
-// which have terms there. One accumulator per lag, terms in increasing i,
-// Vec holding sizeof(Vec) / 8 neighbouring lags.
-template <class Vec, std::size_t Lags>
-KIV_INLINE void accumulate_common(const double *dev, std::size_t first, std::size_t begin,
-                                  std::size_t common_end, double *acc) {
-    const double *ahead = dev + first;
-#if defined(__GNUC__)
-    constexpr std::size_t kLanes = sizeof(Vec) / sizeof(double);
-    if constexpr (Lags % kLanes == 0) {
-        constexpr std::size_t kVectors = Lags / kLanes;
-        Vec sums[kVectors];
-        std::memcpy(sums, acc, sizeof sums);
-        for (std::size_t i = begin; i < common_end; ++i) {
-            const Vec lead = Vec{} + dev[i];
-            for (std::size_t j = 0; j < kVectors; ++j) {
-                Vec later;
-                std::memcpy(&later, ahead + i + kLanes * j, sizeof later);
-                sums[j] += later * lead;
-            }
-        }
-        std::memcpy(acc, sums, sizeof sums);
-        return;
-    }
-#endif
-    for (std::size_t i = begin; i < common_end; ++i) {
-        const double lead = dev[i];
-        for (std::size_t j = 0; j < Lags; ++j) acc[j] += ahead[i + j] * lead;
-    }
-}
-
-// Adds to c[j] (lag first + j) the terms of indices [begin, end) of each of
-// Lags consecutive lags, one accumulator per lag, in increasing index.
-template <class Vec, std::size_t Lags>
-KIV_INLINE void accumulate_lag_block(const double *dev, std::size_t n, std::size_t first,
-                                     std::size_t begin, std::size_t end, double *c) {
-    const std::size_t last = first + Lags - 1;
-    // Indices at which all Lags lags still have terms.
-    const std::size_t common_end = n > last ? std::max(begin, std::min(end, n - last)) : begin;
-    double acc[Lags];
-    for (std::size_t j = 0; j < Lags; ++j) acc[j] = c[j];
-    accumulate_common<Vec, Lags>(dev, first, begin, common_end, acc);
-    // The shorter lags have a few terms more at the end of the series.
-    for (std::size_t j = 0; j < Lags; ++j) {
-        const std::size_t lag = first + j;
-        const std::size_t stop = n > lag ? std::min(end, n - lag) : begin;
-        for (std::size_t t = common_end; t < stop; ++t) acc[j] += dev[t + lag] * dev[t];
-        c[j] = acc[j];
-    }
-}
-
-// All lags, chunk by chunk: blocks of Block lags (eight vector accumulators,
-// enough to hide the latency of the add), then halving blocks for the rest.
-template <class Vec, std::size_t Block>
-KIV_INLINE void lagged_products_by_blocks(const double *dev, std::size_t n, std::size_t nk,
-                                          double *c) {
-    std::fill(c, c + nk, 0.0);
-    for (std::size_t begin = 0; begin < n; begin += kChunk) {
-        const std::size_t end = std::min(n, begin + kChunk);
-        std::size_t lag = 1;
-        for (; lag + Block - 1 <= nk; lag += Block)
-            accumulate_lag_block<Vec, Block>(dev, n, lag, begin, end, c + lag - 1);
-        if constexpr (Block > 16) {
-            if (lag + 15 <= nk) {
-                accumulate_lag_block<Vec, 16>(dev, n, lag, begin, end, c + lag - 1);
-                lag += 16;
-            }
-        }
-        if (lag + 7 <= nk) {
-            accumulate_lag_block<Vec, 8>(dev, n, lag, begin, end, c + lag - 1);
-            lag += 8;
-        }
-        if (lag + 3 <= nk) {
-            accumulate_lag_block<Vec, 4>(dev, n, lag, begin, end, c + lag - 1);
-            lag += 4;
-        }
-        if (lag + 1 <= nk) {
-            accumulate_lag_block<Pair, 2>(dev, n, lag, begin, end, c + lag - 1);
-            lag += 2;
-        }
-        if (lag <= nk) accumulate_lag_block<Pair, 1>(dev, n, lag, begin, end, c + lag - 1);
-    }
-}
-
-#if defined(KIV_AVX_KERNEL)
-__attribute__((target("avx"))) void lagged_products_avx(const double *dev, std::size_t n,
-                                                        std::size_t nk, double *c) {
-    lagged_products_by_blocks<Quad, 32>(dev, n, nk, c);
-}
-#endif
-
-}  // namespace
-
 void lagged_products(const double *dev, std::size_t n, std::size_t nk, double *c) {
-#if defined(KIV_AVX_KERNEL)
-    if (__builtin_cpu_supports("avx")) {
-        lagged_products_avx(dev, n, nk, c);
-        return;
-    }
-#endif
-    lagged_products_portable(dev, n, nk, c);
+    kiv::kernels::lagged_products(dev, n, nk, c);
 }
 
 void lagged_products_portable(const double *dev, std::size_t n, std::size_t nk, double *c) {
-    lagged_products_by_blocks<Pair, 16>(dev, n, nk, c);
+    kiv::kernels::lagged_products_portable(dev, n, nk, c);
 }
 
 void mean_and_sum_of_squares(const double *x, std::size_t n, double *mean, double *sum_squares) {

@@ -33,6 +33,8 @@
 #include <cstring>
 #include <utility>
 
+#include "kernels/simd.hpp"
+
 namespace kiv::kernels {
 
 #if defined(__GNUC__)
@@ -333,7 +335,7 @@ enum class LaneSet { baseline, avx2 };
 
 inline LaneSet best_lane_set() {
 #if defined(KIV_HAVE_AVX2_LANES)
-    return __builtin_cpu_supports("avx2") ? LaneSet::avx2 : LaneSet::baseline;
+    return cpu_has_avx2() ? LaneSet::avx2 : LaneSet::baseline;
 #else
     return LaneSet::baseline;
 #endif

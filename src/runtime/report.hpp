@@ -11,6 +11,7 @@
 #include <string>
 #include <type_traits>
 
+#include "kernels/simd.hpp"
 #include "kiv.h"
 
 namespace kiv::rt {
@@ -39,8 +40,8 @@ class MessageArg {
 public:
     MessageArg(const char *text) : kind_(Kind::text), text_(text) {}
     template <typename T>
-        requires std::is_integral_v<T>
-    MessageArg(T value) : kind_(Kind::integer), integer_(static_cast<long long>(value)) {}
+    requires std::is_integral_v<T> MessageArg(T value)
+        : kind_(Kind::integer), integer_(static_cast<long long>(value)) {}
     MessageArg(double value) : kind_(Kind::real), real_(value) {}
 
     // Appends the argument as the conversion `conversion` ('s', 'g' or 'd')
@@ -72,10 +73,7 @@ void report_template(KivError *fail, const char *routine, int code, const Args &
 
 // Formats a routine's own text with the arguments and reports it.
 void report_text(KivError *fail, const char *routine, int code, const char *format, ...)
-#if defined(__GNUC__)
-    __attribute__((format(printf, 4, 5)))
-#endif
-    ;
+    KIV_PRINTF_FORMAT(4, 5);
 
 // Reports `code` with no message of its own: the reporter uses the
 // table's text unformatted.
