@@ -84,14 +84,14 @@ void distribution(Decoder &in) {
         case 0:
             list.addresses = {&tail, &a, &record.pointer};
             got = call<double>("g01eac_chdl", list);
-            expected = symbol<decltype(&::g01eac)>("g01eac")(
-                static_cast<Kiv_Tail>(tail), a, &direct);
+            expected =
+                symbol<decltype(&::g01eac)>("g01eac")(static_cast<Kiv_Tail>(tail), a, &direct);
             break;
         case 1:
             list.addresses = {&tail, &a, &record.pointer};
             got = call<double>("g01fac_chdl", list);
-            expected = symbol<decltype(&::g01fac)>("g01fac")(
-                static_cast<Kiv_Tail>(tail), a, &direct);
+            expected =
+                symbol<decltype(&::g01fac)>("g01fac")(static_cast<Kiv_Tail>(tail), a, &direct);
             break;
         case 2:
             list.addresses = {&a, &record.pointer};
@@ -101,14 +101,14 @@ void distribution(Decoder &in) {
         case 3:
             list.addresses = {&tail, &a, &b, &record.pointer};
             got = call<double>("g01ecc_chdl", list);
-            expected = symbol<decltype(&::g01ecc)>("g01ecc")(
-                static_cast<Kiv_Tail>(tail), a, b, &direct);
+            expected =
+                symbol<decltype(&::g01ecc)>("g01ecc")(static_cast<Kiv_Tail>(tail), a, b, &direct);
             break;
         default:
             list.addresses = {&tail, &a, &b, &c, &record.pointer};
             got = call<double>("g01efc_chdl", list);
-            expected = symbol<decltype(&::g01efc)>("g01efc")(
-                static_cast<Kiv_Tail>(tail), a, b, c, &direct);
+            expected = symbol<decltype(&::g01efc)>("g01efc")(static_cast<Kiv_Tail>(tail), a, b, c,
+                                                             &direct);
             break;
     }
     check_frame(list);

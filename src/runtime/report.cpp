@@ -118,8 +118,7 @@ std::string format_message(const char *format, std::initializer_list<MessageArg>
         while (*c >= '0' && *c <= '9') width = width * 10 + (*c++ - '0');
         while (*c == 'l') ++c;
         const char conversion = *c == 'd' || *c == 'i' ? 'd' : *c;
-        if ((conversion != 's' && conversion != 'g' && conversion != 'd') ||
-            next == args.end()) {
+        if ((conversion != 's' && conversion != 'g' && conversion != 'd') || next == args.end()) {
             out.append(start, static_cast<std::size_t>(c - start) + (*c != '\0' ? 1 : 0));
             if (*c == '\0') break;
             continue;

@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "g01/normal_common.hpp"
-#include "runtime/report.hpp"
 #include "g01/normal_test_support.hpp"
 #include "kernels/exp_log_oracle.hpp"
 #include "kiv.h"
 #include "runtime/code_table.hpp"
+#include "runtime/report.hpp"
 #include "runtime/testing.hpp"
 
 namespace {

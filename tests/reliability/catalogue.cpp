@@ -239,7 +239,6 @@ void partial_autocorrelation(Scratch &s, KivError *fail, int variant) {
     g13acc(r, 6, 6, &s.out[0], &s.out[6], &s.out[12], &s.iout[0], fail);
 }
 
-
 #if KIV_HAVE_CLI_CORE
 std::vector<std::string> words_of(const char *text) {
     std::vector<std::string> words;

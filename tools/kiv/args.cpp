@@ -167,8 +167,7 @@ Inputs parse_inputs(const RoutineSpec &spec, const std::vector<std::string> &wor
     int from_stdin = 0;
     for (std::size_t k = 0; k < words.size(); ++k)
         from_stdin += words[k] == "-" && is_array(spec.inputs[k].kind);
-    if (from_stdin > 1)
-        throw UsageError("only one argument can be read from standard input ('-')");
+    if (from_stdin > 1) throw UsageError("only one argument can be read from standard input ('-')");
     std::vector<Inputs::Value> values;
     for (std::size_t k = 0; k < words.size(); ++k) {
         const ArgSpec &arg = spec.inputs[k];

@@ -1,8 +1,8 @@
 // The export catalogue of the interpreter module, for `kiv list`.
 #pragma once
 
-#include <vector>
 #include <string_view>
+#include <vector>
 
 namespace kiv::tool {
 

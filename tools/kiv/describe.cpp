@@ -191,8 +191,8 @@ Dataset read_dataset(Options &options) {
             data.columns.push_back(std::move(column));
         } else {
             const bool row_names = j == 0 && raw.names[j].empty();
-            data.skipped.push_back(column.name + (row_names ? " (row names)" : " (text: '" +
-                                                                                  text_field + "')"));
+            data.skipped.push_back(column.name +
+                                   (row_names ? " (row names)" : " (text: '" + text_field + "')"));
         }
     }
     if (data.columns.empty()) throw UsageError(options.path + ": no numeric column");
@@ -274,7 +274,8 @@ void print_sections(const std::vector<Section> &sections, const std::string &for
             }
             for (const auto &row : section.rows) {
                 for (std::size_t j = 0; j < row.size(); ++j)
-                    std::printf("%s%s", j ? "," : "", csv_cell(row[j] == "-" ? "NA" : row[j]).c_str());
+                    std::printf("%s%s", j ? "," : "",
+                                csv_cell(row[j] == "-" ? "NA" : row[j]).c_str());
                 std::printf("\n");
             }
             for (const auto &note : section.notes) std::printf("# note: %s\n", note.c_str());
@@ -327,8 +328,8 @@ Section describe_columns(const Dataset &data, int digits) {
             continue;
         }
         if (fail.code != 0) {
-            section.rows.push_back({column.name, std::to_string(n), missing, "NA", "NA", "NA",
-                                    "NA", "NA", "NA"});
+            section.rows.push_back(
+                {column.name, std::to_string(n), missing, "NA", "NA", "NA", "NA", "NA", "NA"});
             section.notes.push_back(column.name + ": " + one_line(fail));
             continue;
         }
@@ -337,8 +338,7 @@ Section describe_columns(const Dataset &data, int digits) {
                                 constant ? "NA" : f(skew), constant ? "NA" : f(kurt), f(lo),
                                 f(hi)});
         if (constant)
-            section.notes.push_back(column.name +
-                                    ": constant: skewness and kurtosis do not exist");
+            section.notes.push_back(column.name + ": constant: skewness and kurtosis do not exist");
     }
     if (single) section.notes.push_back("sd, skewness and kurtosis need at least two values");
     return section;
@@ -367,15 +367,12 @@ std::vector<Section> describe_correlations(const Dataset &data, int digits) {
     const std::size_t m = data.columns.size();
     std::vector<std::string> heading{""};
     for (const Column &column : data.columns) heading.push_back(column.name);
-    Section pearson{"Pearson correlation (g02bxc, pairwise-complete observations)", heading, {},
-                    {}};
-    Section kendall{"Kendall rank correlation (g02brc, pairwise-complete observations)", heading,
-                    {},
-                    {}};
-    Section spearman{"Spearman rank correlation (g02brc, pairwise-complete observations)",
-                     heading,
-                     {},
-                     {}};
+    Section pearson{
+        "Pearson correlation (g02bxc, pairwise-complete observations)", heading, {}, {}};
+    Section kendall{
+        "Kendall rank correlation (g02brc, pairwise-complete observations)", heading, {}, {}};
+    Section spearman{
+        "Spearman rank correlation (g02brc, pairwise-complete observations)", heading, {}, {}};
     bool constant_note = false, few_note = false;
     std::vector<std::vector<std::string>> p(m, std::vector<std::string>(m, "NA")), k = p, s = p;
     std::vector<double> xy;
@@ -419,8 +416,7 @@ std::vector<Section> describe_correlations(const Dataset &data, int digits) {
         }
     }
     for (Section *section : {&pearson, &kendall, &spearman}) {
-        if (constant_note)
-            section->notes.push_back("NA: a constant column has no correlation");
+        if (constant_note) section->notes.push_back("NA: a constant column has no correlation");
         if (few_note) section->notes.push_back("NA: fewer than two complete pairs");
     }
     return {pearson, kendall, spearman};
@@ -433,10 +429,8 @@ Section describe_autocorrelation(const Dataset &data, int lags, int digits) {
     for (const Column &column : data.columns)
         longest = std::max(longest, static_cast<int>(present_values(column).size()));
     const int nk = std::min(lags, longest - 1);
-    Section section{"Autocorrelation (g13abc), lags 1 to " + std::to_string(std::max(nk, 1)),
-                    {"lag"},
-                    {},
-                    {}};
+    Section section{
+        "Autocorrelation (g13abc), lags 1 to " + std::to_string(std::max(nk, 1)), {"lag"}, {}, {}};
     if (nk < lags && nk >= 1)
         section.notes.push_back("lags limited to " + std::to_string(nk) + ": the series have " +
                                 std::to_string(longest) + " values");

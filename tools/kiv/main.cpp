@@ -7,9 +7,9 @@
 //
 // Exit status: 0 on success, 1 when a routine reports an error, 2 for a
 // mistake on the command line or in an input file.
-#include <cstdio>
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 #include <cstring>
 #include <new>
 
@@ -79,7 +79,8 @@ const RoutineSpec &routine_or_throw(const std::string &given) {
             throw UsageError("routine '" + name + "' is not in this build (kiv list)");
     std::string near;
     for (const auto &spec : routines())
-        if (distance(name, spec.name) <= 2) near += std::string(near.empty() ? "" : ", ") + spec.name;
+        if (distance(name, spec.name) <= 2)
+            near += std::string(near.empty() ? "" : ", ") + spec.name;
     throw UsageError("unknown command or routine '" + given + "' (kiv help)" +
                      (near.empty() ? "" : "; did you mean " + near + "?"));
 }
@@ -198,8 +199,7 @@ int main(int argc, char **argv) {
         const std::vector<std::string> rest(words.begin() + 1, words.end());
         if (command == "help" || command == "--help" || command == "-h") return run_help(rest);
         if (command == "--version") {
-            std::printf("kiv %d.%d.%d\n", KIV_VERSION_MAJOR, KIV_VERSION_MINOR,
-                        KIV_VERSION_PATCH);
+            std::printf("kiv %d.%d.%d\n", KIV_VERSION_MAJOR, KIV_VERSION_MINOR, KIV_VERSION_PATCH);
             return 0;
         }
         if ((command == "demo" || command == "list") && wants_help(rest))

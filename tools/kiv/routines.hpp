@@ -30,8 +30,8 @@ struct ArgSpec {
     const char *name;
     ArgKind kind;
     const char *enum_type = nullptr;  // "Kiv_Tail" for ArgKind::Enum
-    int sizes = -1;  // Int: the input array whose length "-" stands for
-    const char *members = nullptr;  // Enum: the accepted members, "A,B" (null: all)
+    int sizes = -1;                   // Int: the input array whose length "-" stands for
+    const char *members = nullptr;    // Enum: the accepted members, "A,B" (null: all)
 };
 
 // A member of an enumeration of kiv.h.
