@@ -219,23 +219,40 @@ bool large_a_expansion(double a, double b, long double log_x, double *w, double 
     for (int k = 2; k < kLogTerms && k <= kTerms; ++k) l[k] = kLogSinhc[k];
     long double e[kTerms + 1] = {1.0L};
     const long double bm1 = static_cast<long double>(b) - 1.0L;
-    for (int n = 1; n <= kTerms; ++n) {
-        long double sum = 0.0L;
-        for (int k = 1; k <= n; ++k) sum += k * l[k] * e[n - k];
-        e[n] = bm1 * sum / n;
-    }
     const double z = static_cast<double>(-static_cast<long double>(a) * log_x);
-    long double sum_q = 0.0L, sum_p = 0.0L, rising = 1.0L, power = 1.0L;
+    // Q(b + n, z) and P(b + n, z) from one incomplete gamma function and the
+    // recurrences Q(s + 1) = Q(s) + t(s), P(s) = P(s + 1) + t(s),
+    // t(s) = e^-z z^s / Gamma(s + 1): the smaller of the two tails is summed,
+    // with Q recurred upwards (for the small Q) or P downwards from b + kTerms
+    // (for the small P): each adds positive terms and loses nothing.
+    long double t[kTerms + 1];
+    t[0] = std::exp(-static_cast<long double>(z) + b * std::log(static_cast<long double>(z)) -
+                    log_gamma_positive(b + 1.0));
+    for (int n = 0; n < kTerms; ++n) t[n + 1] = t[n] * z / (b + n + 1.0);
+    double p0 = 0.0, q0 = 0.0;
+    kiv::special::incomplete_gamma(b, z, 0.0, &p0, &q0);
+    const bool sum_upper = q0 <= 0.5;  // the tail I_x(a, b) is the small one
+    long double tail[kTerms + 1];
+    if (sum_upper) {
+        tail[0] = q0;
+        for (int n = 0; n < kTerms; ++n) tail[n + 1] = tail[n] + t[n];
+    } else {
+        double pt = 0.0, qt = 0.0;
+        kiv::special::incomplete_gamma(b + kTerms, z, 0.0, &pt, &qt);
+        tail[kTerms] = pt;
+        for (int n = kTerms - 1; n >= 0; --n) tail[n] = tail[n + 1] + t[n];
+    }
+    long double sum = 0.0L, rising = 1.0L, power = 1.0L;
     bool done = false;
     for (int n = 0; n <= kTerms; ++n) {
-        double p = 0.0, q = 0.0;
-        kiv::special::incomplete_gamma(b + n, z, 0.0, &p, &q);
-        const long double weight = e[n] * rising * power;
-        const long double term_q = weight * q, term_p = weight * p;
-        sum_q += term_q;
-        sum_p += term_p;
-        if (n > 2 && std::fabs(term_q) <= 0x1p-64L * std::fabs(sum_q) &&
-            std::fabs(term_p) <= 0x1p-64L * std::fabs(sum_p)) {
+        if (n > 0) {  // e_n of exp((b - 1) ln phi), built as far as needed
+            long double acc = 0.0L;
+            for (int k = 1; k <= n; ++k) acc += k * l[k] * e[n - k];
+            e[n] = bm1 * acc / n;
+        }
+        const long double term = e[n] * rising * power * tail[n];
+        sum += term;
+        if (n > 2 && std::fabs(term) <= 0x1p-64L * std::fabs(sum)) {
             done = true;
             break;
         }
@@ -244,9 +261,9 @@ bool large_a_expansion(double a, double b, long double log_x, double *w, double 
     }
     const long double log_g = -log_gamma_ratio(b, a) -
                               static_cast<long double>(b) * std::log(static_cast<long double>(a));
-    const long double g = std::exp(log_g);
-    *w = static_cast<double>(g * sum_q);
-    *w1 = static_cast<double>(g * sum_p);
+    const double small = static_cast<double>(std::exp(log_g) * sum);
+    *w = sum_upper ? small : 1.0 - small;
+    *w1 = sum_upper ? 1.0 - small : small;
     return done;
 }
 
