@@ -10,15 +10,11 @@
 
 #include "kernels/lanes.hpp"
 #include "kiv.h"
+#include "support/support.hpp"
 
 namespace kiv::test {
 
-inline KivError quiet_record() {
-    KivError fail{};
-    fail.print = 0;
-    fail.code = -99;  // must be overwritten
-    return fail;
-}
+using kiv::test_support::quiet_record;
 
 // Members of other enumerations next to Kiv_Tail, plain junk, and the two
 // Kiv_Tail members that the normal routines refuse.

@@ -7,16 +7,11 @@
 #include <vector>
 
 #include "kiv.h"
+#include "support/support.hpp"
 
 namespace g13_test {
 
-// A record that keeps failures quiet (nothing printed, no abort).
-inline KivError quiet_record() {
-    KivError fail{};
-    fail.code = -1;  // must be cleared by the routine
-    fail.errnum = -7;
-    return fail;
-}
+using kiv::test_support::quiet_record;
 
 // Deterministic uniform numbers on [-0.5, 0.5) from a 64-bit linear
 // congruential generator (Knuth's MMIX constants): the same on every platform.

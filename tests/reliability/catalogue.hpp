@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "kiv.h"
+#include "support/support.hpp"
 
 namespace kiv::reliability {
 
@@ -67,9 +68,7 @@ double sample(int variant, int index);
 
 // A quiet record.
 inline KivError quiet_record() {
-    KivError fail{};
-    fail.print = 0;
-    return fail;
+    return kiv::test_support::plain_record();
 }
 
 }  // namespace kiv::reliability

@@ -10,6 +10,7 @@
 
 #include "kiv.h"
 #include "runtime/code_table.hpp"
+#include "support/support.hpp"
 
 namespace {
 
@@ -25,9 +26,7 @@ void record_handler(const char *message, int code, const char *routine) {
 }
 
 KivError quiet_record() {
-    KivError fail{};
-    fail.print = 0;
-    return fail;
+    return kiv::test_support::plain_record();
 }
 
 TEST(ReportError, PrintJudgesErrorOrWarningByTheLetterAfterTheFirstN) {

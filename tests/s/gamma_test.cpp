@@ -8,13 +8,11 @@
 #include <string>
 
 #include "kiv.h"
+#include "support/support.hpp"
 
 namespace {
 
-double ulps_between(double computed, double reference) {
-    const double spacing = std::nextafter(std::fabs(reference), HUGE_VAL) - std::fabs(reference);
-    return std::fabs(computed - reference) / spacing;
-}
+using kiv::test_support::ulps_between;
 
 double mpfr_reference(double x, bool logarithm) {
     mpfr_t arg, value;
