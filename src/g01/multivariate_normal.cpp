@@ -69,39 +69,16 @@ constexpr double kPrimeRoots[] = {
     7.6811457478686078, 7.8102496759066540, 8.1853527718724504, 8.4261497731763581};
 constexpr int kMaxLatticeDimension = sizeof kPrimeRoots / sizeof kPrimeRoots[0];
 
-}  // namespace
+// The probability for arguments already checked: the estimate, its error
+// estimate, and false when sig is not positive semi-definite.
+struct Estimate {
+    double value, error;
+    bool semi_definite;
+};
 
-extern "C" {
-
-KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[], const double xmu[],
-                      const double sig[], int tdsig, double tol, int maxpts, KivError *fail) {
-    if (!kiv::rt::licence_check()) return 0.0;
-    kiv::rt::clear_code(fail);
-    const kiv::rt::Checks check(fail, "g01hbc");
-    if (!check.member("tail",
-                      tail == Kiv_LowerTail || tail == Kiv_UpperTail || tail == Kiv_Central) ||
-        !check.int_not_less("n", n, 2, "2") ||
-        !check.given("a", tail == Kiv_LowerTail ? &n : static_cast<const void *>(a)) ||
-        !check.given("b", tail == Kiv_UpperTail ? &n : static_cast<const void *>(b)) ||
-        !check.given("xmu", xmu) || !check.given("sig", sig) ||
-        !check.stride_at_least("tdsig", tdsig, "n", n))
-        return 0.0;
-    if (tail == Kiv_Central)
-        for (int i = 0; i < n; ++i)
-            if (!(a[i] <= b[i])) {
-                char na[24], nb[24];
-                std::snprintf(na, sizeof na, "a[%d]", i);
-                std::snprintf(nb, sizeof nb, "b[%d]", i);
-                check.report(NE_2_REAL_ARG_GT, na, a[i], nb, b[i], na, nb);
-                return 0.0;
-            }
-    if (!check.real_above("tol", tol, 0.0, "0.0") || !check.int_not_less("maxpts", maxpts, 1, "1"))
-        return 0.0;
-    if (n > kMaxLatticeDimension + 1) {
-        check.report(NE_INT_ARG_GT, "n", std::to_string(kMaxLatticeDimension + 1).c_str(), "n", n);
-        return 0.0;
-    }
-
+Estimate multivariate_normal(Kiv_Tail tail, int n, const double a[], const double b[],
+                             const double xmu[], const double sig[], int tdsig, double tol,
+                             int maxpts) {
     const auto size = static_cast<std::size_t>(n);
     std::vector<double> lower(size), upper(size), scale(size);
     for (std::size_t i = 0; i < size; ++i) {
@@ -110,8 +87,7 @@ KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[], 
         upper[i] = tail == Kiv_UpperTail ? kInf : b[i] - mean;
         scale[i] = sig[i * static_cast<std::size_t>(tdsig) + i];
         if (!(scale[i] >= 0.0)) {
-            check.report_code_only(NE_NOT_POS_SEM_DEF);
-            return 0.0;
+            return {0.0, 0.0, false};
         }
     }
     auto element = [&](std::size_t i, std::size_t j) {
@@ -133,10 +109,9 @@ KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[], 
         const double si = std::sqrt(scale[i]), sj = std::sqrt(scale[j]);
         if (si > 0.0 && sj > 0.0) {
             const double rho = std::clamp(element(i, j) / (si * sj), -1.0, 1.0);
-            const double p = bivariate_rectangle(lower[i] / si, upper[i] / si, lower[j] / sj,
-                                                 upper[j] / sj, rho);
-            check.success();
-            return p;
+            return {bivariate_rectangle(lower[i] / si, upper[i] / si, lower[j] / sj, upper[j] / sj,
+                                        rho),
+                    0.0, true};
         }
     }
 
@@ -148,8 +123,7 @@ KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[], 
         double pivot = element(order[c], order[c]);
         for (std::size_t k = 0; k < c; ++k) pivot -= l[c * size + k] * l[c * size + k];
         if (pivot < -negligible * static_cast<double>(size)) {
-            check.report_code_only(NE_NOT_POS_SEM_DEF);
-            return 0.0;
+            return {0.0, 0.0, false};
         }
         const double root = pivot > negligible ? std::sqrt(pivot) : 0.0;
         l[c * size + c] = root;
@@ -222,13 +196,53 @@ KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[], 
         if (used + next * kShifts > maxpts) break;
         points = next;
     }
-    estimate = std::clamp(estimate, 0.0, 1.0);
-    if (error > tol) {
+    return {std::clamp(estimate, 0.0, 1.0), error, true};
+}
+
+}  // namespace
+
+extern "C" {
+
+KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[], const double xmu[],
+                      const double sig[], int tdsig, double tol, int maxpts, KivError *fail) {
+    if (!kiv::rt::licence_check()) return 0.0;
+    kiv::rt::clear_code(fail);
+    const kiv::rt::Checks check(fail, "g01hbc");
+    if (!check.member("tail",
+                      tail == Kiv_LowerTail || tail == Kiv_UpperTail || tail == Kiv_Central) ||
+        !check.int_not_less("n", n, 2, "2") ||
+        !check.given("a", tail == Kiv_LowerTail ? &n : static_cast<const void *>(a)) ||
+        !check.given("b", tail == Kiv_UpperTail ? &n : static_cast<const void *>(b)) ||
+        !check.given("xmu", xmu) || !check.given("sig", sig) ||
+        !check.stride_at_least("tdsig", tdsig, "n", n))
+        return 0.0;
+    if (tail == Kiv_Central)
+        for (int i = 0; i < n; ++i)
+            if (!(a[i] <= b[i])) {
+                char na[24], nb[24];
+                std::snprintf(na, sizeof na, "a[%d]", i);
+                std::snprintf(nb, sizeof nb, "b[%d]", i);
+                check.report(NE_2_REAL_ARG_GT, na, a[i], nb, b[i], na, nb);
+                return 0.0;
+            }
+    if (!check.real_above("tol", tol, 0.0, "0.0") || !check.int_not_less("maxpts", maxpts, 1, "1"))
+        return 0.0;
+    if (n > kMaxLatticeDimension + 1) {
+        check.report(NE_INT_ARG_GT, "n", std::to_string(kMaxLatticeDimension + 1).c_str(), "n", n);
+        return 0.0;
+    }
+
+    const Estimate result = multivariate_normal(tail, n, a, b, xmu, sig, tdsig, tol, maxpts);
+    if (!result.semi_definite) {
+        check.report_code_only(NE_NOT_POS_SEM_DEF);
+        return 0.0;
+    }
+    if (result.error > tol) {
         check.report_code_only(NE_ACC);
-        return estimate;
+        return result.value;
     }
     check.success();
-    return estimate;
+    return result.value;
 }
 
 }  // extern "C"
