@@ -803,6 +803,11 @@ typedef KIV_ENUM_TYPE(Kiv_SumSquare_tag){Kiv_AboutMean = 1362, Kiv_AboutZero = 1
    other member of the shared numbering. */
 typedef KIV_ENUM_TYPE(Kiv_OrderType_tag){Kiv_RowMajor = 1500, Kiv_ColMajor = 1501} Kiv_OrderType;
 
+/* Class boundaries of a frequency table (g01aec): given by the caller or
+   computed as equally spaced. 1510 and 1511 are used by no other member. */
+typedef KIV_ENUM_TYPE(Kiv_ClassBoundary_tag){Kiv_ClassBoundaryUser = 1510,
+                                             Kiv_ClassBoundaryComp = 1511} Kiv_ClassBoundary;
+
 /* ---- runtime ------------------------------------------------------------ */
 KIV_API void kiv_report_error(const char *message, int code, const char *routine, KivError *fail);
 KIV_API int kiv_ifail_exit(int ifail, int ierror, const char *routine, int nrec,
@@ -901,6 +906,18 @@ KIV_API double g01hac(double x, double y, double rho, KivError *fail);
 KIV_API double g01hbc(Kiv_Tail tail, int n, const double a[], const double b[],
                       const double xmu[], const double sig[], int tdsig, double tol, int maxpts,
                       KivError *fail);
+
+/* Grouped data: mean, sd, skewness, kurtosis of class marks x with
+   frequencies ifreq (divisors as g01aac), n the total frequency. */
+KIV_API void g01adc(int k, const double x[], const int ifreq[], double *xmean, double *xsd,
+                    double *xskew, double *xkurt, int *n, KivError *fail);
+/* Frequency table of n values in num_class classes (cint[i-1] <= x < cint[i],
+   the end classes open), boundaries computed or given. */
+KIV_API void g01aec(int n, const double x[], int num_class, Kiv_ClassBoundary cltype,
+                    double cint[], int ifreq[], double *xmin, double *xmax, KivError *fail);
+/* Tukey's five-number summary: minimum, lower hinge, median, upper hinge,
+   maximum (by selection, not a full sort). */
+KIV_API void g01alc(int n, const double x[], double res[5], KivError *fail);
 
 /* ---- random numbers -------------------------------------------------------- */
 /* The next uniform number in (0, 1) of the thread's basic generator. */

@@ -42,26 +42,42 @@ KIV_API void g01aac_chdl(void *varg) {
 
 KIV_API void g01adc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(8);
+    const auto k = frame.arg<int>();
+    const auto x = frame.arg<const double *>();
+    const auto ifreq = frame.arg<const int *>();
+    const auto xmean = frame.arg<double *>();
+    const auto xsd = frame.arg<double *>();
+    const auto xskew = frame.arg<double *>();
+    const auto xkurt = frame.arg<double *>();
+    const auto n = frame.arg<int *>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01adc", fail);
+    g01adc(k, x, ifreq, xmean, xsd, xskew, xkurt, n, fail);
 }
 
 KIV_API void g01aec_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(8);
+    const auto n = frame.arg<int>();
+    const auto x = frame.arg<const double *>();
+    const auto num_class = frame.arg<int>();
+    const auto cltype = frame.arg<Kiv_ClassBoundary>();
+    const auto cint = frame.arg<double *>();
+    const auto ifreq = frame.arg<int *>();
+    const auto xmin = frame.arg<double *>();
+    const auto xmax = frame.arg<double *>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01aec", fail);
+    g01aec(n, x, num_class, cltype, cint, ifreq, xmin, xmax, fail);
 }
 
 KIV_API void g01alc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(3);
+    const auto n = frame.arg<int>();
+    const auto x = frame.arg<const double *>();
+    const auto res = frame.arg<double *>();
     const auto fail = frame.arg<KivError *>();
     const HandlerSubstitution substitution(slots.saved_handler, fail, error_handler);
-    kiv::binding::report_not_available("g01alc", fail);
+    g01alc(n, x, res, fail);
 }
 
 KIV_API double g01bcc_chdl(void *varg) {

@@ -639,11 +639,43 @@ std::vector<Case> range_and_normal_cases() {
     };
 }
 
+// Grouped moments, frequency table, five-number summary.
+std::vector<Case> summary_cases() {
+    auto adc = [](int k, int f1) {
+        return [=](Scratch &s, KivError *f) {
+            const double x[2] = {1.0, 2.0};
+            const int freq[2] = {3, f1};
+            g01adc(k, x, freq, &s.out[0], &s.out[1], &s.out[2], &s.out[3], &s.iout[0], f);
+        };
+    };
+    auto aec = [](int n, int classes, int type) {
+        return [=](Scratch &s, KivError *f) {
+            g01aec(n, x20, classes, static_cast<Kiv_ClassBoundary>(type), &s.out[0], &s.iout[0],
+                   &s.out[10], &s.out[11], f);
+        };
+    };
+    return {
+        {"g01adc", adc(0, 1), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, k must not be less than 1: k = 0."},
+        {"g01adc", adc(2, -2), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, ifreq[1] must not be less than 0: ifreq[1] = -2."},
+        {"g01aec", aec(0, 3, Kiv_ClassBoundaryComp), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, n must not be less than 1: n = 0."},
+        {"g01aec", aec(5, 1, Kiv_ClassBoundaryComp), NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, num_class must not be less than 2: num_class = 1."},
+        {"g01aec", aec(5, 3, 1329), NE_BAD_PARAM, bad_param("cltype")},
+        {"g01alc", [](Scratch &s, KivError *f) { g01alc(0, x20, &s.out[0], f); }, NE_INT_ARG_LT,
+         "NE_INT_ARG_LT:\n  On entry, n must not be less than 1: n = 0."},
+        {"g01alc", [](Scratch &s, KivError *f) { g01alc(3, nullptr, &s.out[0], f); }, NE_BAD_PARAM,
+         bad_param("x")},
+    };
+}
+
 std::vector<Case> all_cases() {
     std::vector<Case> cases;
-    for (auto part :
-         {normal_cases, gamma_cases, moments_cases, correlation_cases, time_series_cases,
-          null_pointer_cases, student_f_beta_cases, deviate_cases, range_and_normal_cases})
+    for (auto part : {normal_cases, gamma_cases, moments_cases, correlation_cases,
+                      time_series_cases, null_pointer_cases, student_f_beta_cases, deviate_cases,
+                      range_and_normal_cases, summary_cases})
         for (Case &c : part()) cases.push_back(std::move(c));
     return cases;
 }

@@ -10,9 +10,9 @@ namespace kiv::tool {
 const std::vector<CatalogueEntry> &catalogue() {
     static const std::vector<CatalogueEntry> entries = {
         {"g01aac_chdl", "g01aac", 12, true, true},
-        {"g01adc_chdl", "g01adc", 9, true, false},
-        {"g01aec_chdl", "g01aec", 9, true, false},
-        {"g01alc_chdl", "g01alc", 4, true, false},
+        {"g01adc_chdl", "g01adc", 9, true, true},
+        {"g01aec_chdl", "g01aec", 9, true, true},
+        {"g01alc_chdl", "g01alc", 4, true, true},
         {"g01bcc_chdl", "g01bcc", 3, false, false},
         {"g01bjc_chdl", "g01bjc", 7, true, false},
         {"g01bkc_chdl", "g01bkc", 6, true, false},

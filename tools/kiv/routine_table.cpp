@@ -19,6 +19,8 @@ const std::vector<EnumMember> &enum_members() {
         {"Kiv_AboutZero", Kiv_AboutZero, "Kiv_SumSquare"},
         {"Kiv_RowMajor", Kiv_RowMajor, "Kiv_OrderType"},
         {"Kiv_ColMajor", Kiv_ColMajor, "Kiv_OrderType"},
+        {"Kiv_ClassBoundaryUser", Kiv_ClassBoundaryUser, "Kiv_ClassBoundary"},
+        {"Kiv_ClassBoundaryComp", Kiv_ClassBoundaryComp, "Kiv_ClassBoundary"},
     };
     return members;
 }
@@ -63,6 +65,83 @@ const std::vector<RoutineSpec> &routines() {
          "n <= 0: NE_INT_ARG_LE; a null x or output: NE_BAD_PARAM; wt[i] < 0 or NaN: "
          "NE_REAL_ARG_LT; all weights 0: NE_CASES_ZERO; one valid observation: NE_CASES_ONE "
          "(warning)"},
+        {"g01adc",
+         "mean, sd, skewness, kurtosis of grouped data",
+         {{"k", ArgKind::Int, nullptr, 1}, {"x", ArgKind::Doubles}, {"ifreq", ArgKind::Ints}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const int k = given.integer(0);
+             const double *x = given.doubles(1, "x", k);
+             const int *ifreq = given.ints(2, "ifreq", k);
+             double xmean = 0;
+             double xsd = 0;
+             double xskew = 0;
+             double xkurt = 0;
+             int n = 0;
+             g01adc(k, x, ifreq, &xmean, &xsd, &xskew, &xkurt, &n, fail);
+             printed.scalar("xmean", xmean);
+             printed.scalar("xsd", xsd);
+             printed.scalar("xskew", xskew);
+             printed.scalar("xkurt", xkurt);
+             printed.integer("n", n);
+         },
+         "3 1,2,3 2,5,1",
+         "k: number of classes, k >= 1; x: the class marks; ifreq: the frequencies, >= 0; xmean: "
+         "the mean; xsd: standard deviation (divisor n - 1); xskew: skewness; xkurt: excess "
+         "kurtosis; n: the total frequency",
+         "void g01adc(int k, const double *x, const int *ifreq, double *xmean, double *xsd, double "
+         "*xskew, double *xkurt, int *n, KivError *fail)",
+         "k < 1: NE_INT_ARG_LT; a null array: NE_BAD_PARAM; ifreq[i] < 0: NE_INT_ARG_LT; total "
+         "above 2^31 - 1: NE_INT_ARG_GT; total 0: NE_CASES_ZERO; total 1: NE_CASES_ONE"},
+        {"g01aec",
+         "frequency table in num_class classes",
+         {{"n", ArgKind::Int, nullptr, 1},
+          {"x", ArgKind::Doubles},
+          {"num_class", ArgKind::Int},
+          {"cltype", ArgKind::Enum, "Kiv_ClassBoundary"},
+          {"cint", ArgKind::Doubles}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const int n = given.integer(0);
+             const int num_class = given.integer(2);
+             const auto cltype = static_cast<Kiv_ClassBoundary>(given.integer(3));
+             const double *x = given.doubles(1, "x", n);
+             auto cint =
+                 copy_of(given.doubles(4, "cint", nonneg(num_class - 1)), nonneg(num_class - 1));
+             auto ifreq = out_ints(num_class);
+             double xmin = 0;
+             double xmax = 0;
+             g01aec(n, x, num_class, cltype, cint.data(), ifreq.data(), &xmin, &xmax, fail);
+             printed.vector("cint", first(cint, nonneg(num_class - 1)));
+             printed.vector("ifreq", first(ifreq, num_class));
+             printed.scalar("xmin", xmin);
+             printed.scalar("xmax", xmax);
+         },
+         "6 1,2,2,3,5,8 3 Kiv_ClassBoundaryComp 0,0",
+         "n: number of values, n >= 1; x: the values; num_class: number of classes, >= 2; cltype: "
+         "Kiv_ClassBoundaryComp (equally spaced) or Kiv_ClassBoundaryUser (given in cint); cint: "
+         "the num_class - 1 inner boundaries; ifreq: the class frequencies; xmin: smallest value; "
+         "xmax: largest value",
+         "void g01aec(int n, const double *x, int num_class, Kiv_ClassBoundary cltype, double "
+         "*cint, int *ifreq, double *xmin, double *xmax, KivError *fail)",
+         "n < 1: NE_INT_ARG_LT; num_class < 2: NE_INT_ARG_LT; bad cltype: NE_BAD_PARAM; a null "
+         "array: NE_BAD_PARAM; boundaries not strictly increasing: NE_NOT_STRICTLY_INCREASING"},
+        {"g01alc",
+         "five-number summary (Tukey's hinges)",
+         {{"n", ArgKind::Int, nullptr, 1}, {"x", ArgKind::Doubles}},
+         true,
+         [](In given, Outputs &printed, KivError *fail) {
+             const int n = given.integer(0);
+             const double *x = given.doubles(1, "x", n);
+             auto res = out_doubles(5);
+             g01alc(n, x, res.data(), fail);
+             printed.vector("res", first(res, 5));
+         },
+         "7 3,1,4,1,5,9,2",
+         "n: number of values, n >= 1; x: the values; res: minimum, lower hinge, median, upper "
+         "hinge, maximum",
+         "void g01alc(int n, const double *x, double *res, KivError *fail)",
+         "n < 1: NE_INT_ARG_LT; a null array: NE_BAD_PARAM; no memory: NE_ALLOC_FAIL"},
         {"g01cec",
          "standard normal deviate with P(X <= x) = p",
          {{"p", ArgKind::Double}},
