@@ -344,6 +344,29 @@ Section describe_columns(const Dataset &data, int digits) {
     return section;
 }
 
+// Tukey's five-number summary of each column's present values (g01alc).
+Section describe_five_numbers(const Dataset &data, int digits) {
+    Section section{"Five-number summary (g01alc, Tukey's hinges)",
+                    {"column", "min", "lower hinge", "median", "upper hinge", "max"},
+                    {},
+                    {}};
+    for (const Column &column : data.columns) {
+        const std::vector<double> x = present_values(column);
+        if (x.empty()) {
+            section.rows.push_back({column.name, "NA", "NA", "NA", "NA", "NA"});
+            continue;
+        }
+        double res[5];
+        KivError fail = quiet_record();
+        g01alc(static_cast<int>(x.size()), x.data(), res, &fail);
+        std::vector<std::string> row{column.name};
+        for (double v : res) row.push_back(fail.code == 0 ? significant(v, digits) : "NA");
+        section.rows.push_back(row);
+        if (fail.code != 0) section.notes.push_back(column.name + ": " + one_line(fail));
+    }
+    return section;
+}
+
 // The rows where both columns are present.
 int complete_pairs(const Column &a, const Column &b, std::vector<double> &xy) {
     xy.clear();
@@ -533,6 +556,7 @@ int run_describe(const std::vector<std::string> &args) {
     const std::string name = options.path == "-" ? "<stdin>" : options.path;
     std::vector<Section> sections;
     sections.push_back(describe_columns(data, options.digits));
+    sections.push_back(describe_five_numbers(data, options.digits));
     for (auto &section : describe_correlations(data, options.digits)) sections.push_back(section);
     sections.push_back(describe_autocorrelation(data, options.lags, options.digits));
     if (options.format == "table") {
