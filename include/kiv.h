@@ -918,6 +918,9 @@ KIV_API void g01aec(int n, const double x[], int num_class, Kiv_ClassBoundary cl
 /* Tukey's five-number summary: minimum, lower hinge, median, upper hinge,
    maximum (by selection, not a full sort). */
 KIV_API void g01alc(int n, const double x[], double res[5], KivError *fail);
+/* Reciprocal Mills' ratio of the standard normal, phi(x)/(1 - Phi(x)), for
+   every x. */
+KIV_API double g01mbc(double x);
 
 /* ---- random numbers -------------------------------------------------------- */
 /* The next uniform number in (0, 1) of the thread's basic generator. */

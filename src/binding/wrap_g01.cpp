@@ -471,9 +471,8 @@ KIV_API void g01jdc_chdl(void *varg) {
 
 KIV_API double g01mbc_chdl(void *varg) {
     Frame frame(slots, varg);
-    frame.skip(1);
-    kiv::binding::print_not_available("g01mbc");
-    return 0.0;
+    const auto x = frame.arg<double>();
+    return g01mbc(x);
 }
 
 KIV_API double g01mtc_chdl(void *varg) {

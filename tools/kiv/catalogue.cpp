@@ -55,7 +55,7 @@ const std::vector<CatalogueEntry> &catalogue() {
         {"g01hbc_chdl", "g01hbc", 10, true, true},
         {"g01jcc_chdl", "g01jcc", 10, true, false},
         {"g01jdc_chdl", "g01jdc", 7, true, false},
-        {"g01mbc_chdl", "g01mbc", 1, true, false},
+        {"g01mbc_chdl", "g01mbc", 1, true, true},
         {"g01mtc_chdl", "g01mtc", 1, true, false},
         {"g01muc_chdl", "g01muc", 2, true, false},
         {"g01nac_chdl", "g01nac", 13, true, false},

@@ -565,6 +565,18 @@ const std::vector<RoutineSpec> &routines() {
          "NE_2_INT_ARG_LT; a[i] > b[i] (central): NE_2_REAL_ARG_GT; tol <= 0: NE_REAL_ARG_LE; "
          "maxpts < 1: NE_INT_ARG_LT; n > 21: NE_INT_ARG_GT; sig not positive semi-definite: "
          "NE_NOT_POS_SEM_DEF; tol not reached: NE_ACC"},
+        {"g01mbc",
+         "reciprocal Mills' ratio of the standard normal",
+         {{"x", ArgKind::Double}},
+         false,
+         [](In given, Outputs &printed, KivError *) {
+             const double x = given.real(0);
+             printed.scalar("result", g01mbc(x));
+         },
+         "1.0",
+         "x: the argument; result: phi(x)/(1 - Phi(x))",
+         "double g01mbc(double x)",
+         ""},
         {"g02brc",
          "Kendall (below the diagonal) and Spearman (above) rank correlations",
          {{"n", ArgKind::Int, nullptr, 5},
